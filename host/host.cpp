@@ -1,0 +1,475 @@
+#include "host/host.h"
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace kestrane::host {
+
+// ---------------------------------------------------------------- module
+
+Module::Module(const std::string& path) {
+    handle_ = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (handle_ == nullptr) {
+        const char* why = dlerror();
+        error_ = "cannot load module " + path + ": " + (why ? why : "unknown error");
+        return;
+    }
+    linkage_ = static_cast<ModuleLinkage*>(dlsym(handle_, "Linkage"));
+    imports_ = static_cast<ModuleImports*>(dlsym(handle_, "ImportTable"));
+    fields_ = static_cast<const FieldTable*>(dlsym(handle_, "KestraneFields"));
+    if (linkage_ == nullptr || imports_ == nullptr) {
+        error_ = "module " + path + " exports no Linkage or ImportTable";
+        linkage_ = nullptr;
+    }
+}
+
+Module::~Module() {
+    if (handle_ != nullptr) dlclose(handle_);
+}
+
+std::string default_module_path() {
+    if (const char* env = std::getenv("KESTRANE_MODULE"); env != nullptr && *env != '\0')
+        return env;
+#ifdef KESTRANE_DEFAULT_MODULE
+    return KESTRANE_DEFAULT_MODULE;
+#else
+    return "libkestrane.so";
+#endif
+}
+
+// ---------------------------------------------------------------- services
+
+namespace {
+Host* g_host = nullptr;  // the host the module's service calls reach
+
+void KCALL s_lookup_var(ModuleVar* v) {
+    if (g_host && v) g_host->svc_lookup_var(v);
+}
+void KCALL s_trigger_key_event(u32 e, u32 v) {
+    if (g_host) g_host->svc_trigger_key_event(e, v);
+}
+u32 KCALL s_panel_window_toggle(u32 id) { return g_host ? g_host->svc_panel_window_toggle(id) : 0; }
+u32 KCALL s_register_named(const char* n) { return g_host && n ? g_host->svc_register_named(n) : 0; }
+f64 KCALL s_get_named(u32 id) { return g_host ? g_host->svc_get_named(id) : 0.0; }
+void KCALL s_set_named(u32 id, f64 v) {
+    if (g_host) g_host->svc_set_named(id, v);
+}
+u32 KCALL s_calc(const char* code, f64* result, i32* iresult, const char** sresult) {
+    if (iresult) *iresult = 0;
+    if (sresult) *sresult = nullptr;
+    return g_host ? g_host->svc_calc(code, result) : 0;
+}
+void KCALL s_el_1(Element*) {}
+void KCALL s_el_2(Element*, std::uintptr_t) {}
+
+constexpr u32 kEventWindowToggle = 66506;
+constexpr u32 kEventWindowOpen = 66507;
+constexpr u32 kEventWindowClose = 66508;
+}  // namespace
+
+Host::Host(std::string module_path) : module_path_(std::move(module_path)) {
+    services_.version = 1;
+    services_.lookup_var = s_lookup_var;
+    services_.trigger_key_event = s_trigger_key_event;
+    services_.panel_window_toggle = s_panel_window_toggle;
+    services_.register_named_variable = s_register_named;
+    services_.get_named_variable_value = s_get_named;
+    services_.set_named_variable_value = s_set_named;
+    services_.execute_calculator_code = s_calc;
+    services_.element_list_query = s_el_1;
+    services_.element_list_install = s_el_2;
+    services_.element_list_initialize = s_el_1;
+    services_.element_list_update = s_el_1;
+    services_.element_list_generate = s_el_2;
+    services_.element_list_plot = s_el_1;
+    services_.element_list_kill = s_el_1;
+    events_.reserve(1 << 16);
+    windows_.reserve(256);
+    named_.reserve(64);
+    installed_.reserve(256);
+    reload();
+}
+
+Host::~Host() {
+    module_.reset();
+    if (g_host == this) g_host = nullptr;
+}
+
+void Host::reset_tables() {
+    installed_.clear();
+    gauge_by_name_.clear();
+    field_by_name_.clear();
+    tokens_.assign(kDirectTokens, std::array<u8, 8>{});
+    far_tokens_.clear();
+    named_.clear();
+    calc_.clear();
+    windows_.clear();
+    events_.clear();
+}
+
+bool Host::reload() {
+    module_.reset();
+    reset_tables();
+    error_.clear();
+    module_ = std::make_unique<Module>(module_path_);
+    if (!module_->ok()) {
+        error_ = module_->error();
+        return false;
+    }
+    g_host = this;
+    module_->imports()->entries[0].ptr = &services_;
+    for (int i = 0; i < gauge_count(); ++i) gauge_by_name_.emplace(gauge(i)->name, i);
+    if (const FieldTable* t = module_->fields()) {
+        for (u32 i = 0; i < t->count; ++i) field_by_name_.emplace(t->fields[i].name, &t->fields[i]);
+        // A library that was not really unloaded would still hold the last
+        // script's values: put every field back to its value at load.
+        for (u32 i = 0; i < t->count; ++i) {
+            if (read_field(t->fields[i]) != t->fields[i].load_value)
+                write_field(t->fields[i], t->fields[i].load_value);
+        }
+    }
+    return true;
+}
+
+// ---------------------------------------------------------------- registry
+
+int Host::gauge_count() const {
+    if (!ok()) return 0;
+    int n = 0;
+    while (n < 219 + 1 && module_->linkage()->gauges[n] != nullptr) ++n;
+    return n;
+}
+
+GaugeHeader* Host::gauge(int index) const {
+    if (index < 0 || index >= gauge_count()) return nullptr;
+    return module_->linkage()->gauges[index];
+}
+
+int Host::gauge_index(std::string_view name) const {
+    auto it = gauge_by_name_.find(name);
+    return it == gauge_by_name_.end() ? -1 : it->second;
+}
+
+GaugeHeader* Host::gauge(std::string_view name) const { return gauge(gauge_index(name)); }
+
+void Host::install(GaugeHeader* g) {
+    if (g == nullptr || installed(g)) return;
+    installed_.push_back(g);
+    if (g->callback)
+        g->callback(g, 2, reinterpret_cast<std::uintptr_t>(module_ ? module_->handle() : nullptr));
+}
+
+void Host::install_all() {
+    for (int i = 0; i < gauge_count(); ++i) install(gauge(i));
+}
+
+void Host::remove(GaugeHeader* g) {
+    auto it = std::find(installed_.begin(), installed_.end(), g);
+    if (it == installed_.end()) return;
+    if (g->callback) g->callback(g, 12, 0);
+    installed_.erase(it);
+}
+
+bool Host::installed(const GaugeHeader* g) const {
+    return std::find(installed_.begin(), installed_.end(), g) != installed_.end();
+}
+
+// ---------------------------------------------------------------- cycles
+
+void Host::run(int cycles) {
+    for (int c = 0; c < cycles; ++c) {
+        set_token(1, token(1) + 1.0);
+        set_token(604, token(604) + 1.0 / 18.0);
+        for (std::size_t i = 0; i < installed_.size(); ++i) {
+            GaugeHeader* g = installed_[i];
+            if (g->callback) g->callback(g, 6, 0);
+            draw(g);
+        }
+    }
+}
+
+void Host::draw(GaugeHeader* g) {
+    if (g && g->elements) draw_element(g->elements[0], 0);
+}
+
+void Host::draw_element(Element* e, int depth) {
+    if (e == nullptr || depth > 256) return;
+    if ((e->flags & kHidden) == 0) {
+        switch (e->kind) {
+            case kNeedle:
+                if (e->u.needle.callback)
+                    e->u.needle.callback(e);
+                else if (e->u.needle.source.id)
+                    svc_lookup_var(&e->u.needle.source);
+                break;
+            case kString:
+                if (e->u.str.callback) e->u.str.callback(e);
+                break;
+            case kSlider:
+                if (e->u.slider.callback_x) e->u.slider.callback_x(e);
+                if (e->u.slider.callback_y) e->u.slider.callback_y(e);
+                break;
+            case kMovingImage:
+                if (e->u.moving.callback_x) e->u.moving.callback_x(e);
+                if (e->u.moving.callback_y) e->u.moving.callback_y(e);
+                break;
+            case kSprite:
+                if (e->u.sprite.callback_x) e->u.sprite.callback_x(e);
+                if (e->u.sprite.callback_y) e->u.sprite.callback_y(e);
+                if (e->u.sprite.callback_rot) e->u.sprite.callback_rot(e);
+                break;
+            default:
+                break;
+        }
+    }
+    if (e->children)
+        for (Element** c = e->children; *c != nullptr; ++c) draw_element(*c, depth + 1);
+}
+
+// ---------------------------------------------------------------- mouse
+
+MouseRect* Host::hit(GaugeHeader* g, int x, int y, u32 event_flags) {
+    if (g == nullptr || g->mouse == nullptr) return nullptr;
+    for (MouseRect* r = g->mouse; r->row != kRowEnd; ++r) {
+        if (r->row != kRowChild) continue;
+        if ((r->flags & event_flags) == 0 || r->u.handler == nullptr) continue;
+        if (x >= r->x && x < r->x + r->w && y >= r->y && y < r->y + r->h) return r;
+    }
+    return nullptr;
+}
+
+bool Host::click(GaugeHeader* g, int x, int y, u32 flags) {
+    MouseRect* r = hit(g, x, y, flags);
+    if (r == nullptr) return false;
+    PixPoint p{x, y};
+    r->u.handler(&p, flags);
+    return true;
+}
+
+bool Host::hold(GaugeHeader* g, int x, int y, int cycles) {
+    MouseRect* r = hit(g, x, y, kMouseLeft);
+    if (r == nullptr) return false;
+    PixPoint p{x, y};
+    for (int c = 0; c < cycles; ++c) {
+        if (c == 0)
+            r->u.handler(&p, kMouseLeft);
+        else if (r->flags & kMouseRepeat)
+            r->u.handler(&p, kMouseRepeat);
+        run(1);
+    }
+    return true;
+}
+
+// ---------------------------------------------------------------- tokens
+
+void Host::set_token(u32 id, f64 value) {
+    std::array<u8, 8> raw{};
+    std::memcpy(raw.data(), &value, 8);
+    if (id < kDirectTokens)
+        tokens_[id] = raw;
+    else
+        far_tokens_[id] = raw;
+}
+
+void Host::set_token_bcd(u32 id, u32 bcd) {
+    std::array<u8, 8> raw{};
+    std::memcpy(raw.data(), &bcd, 4);
+    if (id < kDirectTokens)
+        tokens_[id] = raw;
+    else
+        far_tokens_[id] = raw;
+}
+
+void Host::read_token(u32 id, u8 out[8]) const {
+    if (id < kDirectTokens) {
+        std::memcpy(out, tokens_[id].data(), 8);
+        return;
+    }
+    auto it = far_tokens_.find(id);
+    if (it == far_tokens_.end())
+        std::memset(out, 0, 8);
+    else
+        std::memcpy(out, it->second.data(), 8);
+}
+
+f64 Host::token(u32 id) const {
+    u8 raw[8];
+    read_token(id, raw);
+    f64 v;
+    std::memcpy(&v, raw, 8);
+    return v;
+}
+
+void Host::svc_lookup_var(ModuleVar* var) {
+    u8 raw[8];
+    read_token(var->id, raw);
+    var->previous = var->value.n;
+    std::memcpy(var->value.raw, raw, 8);
+}
+
+// ---------------------------------------------------------------- events, windows
+
+void Host::svc_trigger_key_event(u32 event, u32 value) {
+    events_.push_back({event, value});
+    if (event == kEventWindowToggle)
+        window_set(value, !window_open(value));
+    else if (event == kEventWindowOpen)
+        window_set(value, true);
+    else if (event == kEventWindowClose)
+        window_set(value, false);
+}
+
+u32 Host::svc_panel_window_toggle(u32 ident) {
+    window_set(ident, !window_open(ident));
+    return 1;
+}
+
+bool Host::window_open(u32 ident) const {
+    return std::find(windows_.begin(), windows_.end(), ident) != windows_.end();
+}
+
+void Host::window_set(u32 ident, bool open) {
+    auto it = std::find(windows_.begin(), windows_.end(), ident);
+    if (open && it == windows_.end()) windows_.push_back(ident);
+    if (!open && it != windows_.end()) windows_.erase(it);
+}
+
+// ---------------------------------------------------------------- named variables, calculator
+
+u32 Host::svc_register_named(const char* name) {
+    for (std::size_t i = 0; i < named_.size(); ++i)
+        if (named_[i].first == name) return static_cast<u32>(i);
+    named_.emplace_back(name, 0.0);
+    return static_cast<u32>(named_.size() - 1);
+}
+
+f64 Host::svc_get_named(u32 id) const { return id < named_.size() ? named_[id].second : 0.0; }
+
+void Host::svc_set_named(u32 id, f64 value) {
+    if (id < named_.size()) named_[id].second = value;
+}
+
+void Host::set_named(std::string_view name, f64 value) {
+    for (auto& n : named_)
+        if (n.first == name) {
+            n.second = value;
+            return;
+        }
+    named_.emplace_back(std::string(name), value);
+}
+
+std::optional<f64> Host::named(std::string_view name) const {
+    for (const auto& n : named_)
+        if (n.first == name) return n.second;
+    return std::nullopt;
+}
+
+void Host::set_calc(std::string_view expression, f64 value) {
+    calc_.insert_or_assign(std::string(expression), value);
+}
+
+u32 Host::svc_calc(const char* code, f64* result) {
+    if (result == nullptr) return 0;
+    *result = 0.0;
+    if (code == nullptr) return 0;
+    auto it = calc_.find(std::string_view(code));
+    if (it != calc_.end()) *result = it->second;
+    return 1;
+}
+
+// ---------------------------------------------------------------- fields
+
+const FieldInfo* Host::field(std::string_view name) const {
+    auto it = field_by_name_.find(name);
+    return it == field_by_name_.end() ? nullptr : it->second;
+}
+
+f64 Host::read_field(const FieldInfo& f) const {
+    const u8* p = static_cast<const u8*>(module_->fields()->state) + f.offset;
+    auto get = [p](auto v) {
+        std::memcpy(&v, p, sizeof v);
+        return static_cast<f64>(v);
+    };
+    switch (f.type) {
+        case kU8: return get(u8{});
+        case kI8: return get(i8{});
+        case kU16: return get(u16{});
+        case kI16: return get(i16{});
+        case kU32: return get(u32{});
+        case kI32: return get(i32{});
+        case kF32: return get(f32{});
+        case kF64: return get(f64{});
+    }
+    return 0.0;
+}
+
+namespace {
+template <class T>
+T saturate(f64 v) {
+    if (std::isnan(v)) return T{0};
+    if constexpr (std::numeric_limits<T>::is_integer) {
+        if (v <= static_cast<f64>(std::numeric_limits<T>::min())) return std::numeric_limits<T>::min();
+        if (v >= static_cast<f64>(std::numeric_limits<T>::max())) return std::numeric_limits<T>::max();
+        return static_cast<T>(v);
+    } else {
+        const f64 hi = static_cast<f64>(std::numeric_limits<T>::max());
+        return static_cast<T>(std::clamp(v, -hi, hi));
+    }
+}
+}  // namespace
+
+void Host::write_field(const FieldInfo& f, f64 value) {
+    u8* p = static_cast<u8*>(module_->fields()->state) + f.offset;
+    auto put = [p](auto v) { std::memcpy(p, &v, sizeof v); };
+    switch (f.type) {
+        case kU8: put(saturate<u8>(value)); break;
+        case kI8: put(saturate<i8>(value)); break;
+        case kU16: put(saturate<u16>(value)); break;
+        case kI16: put(saturate<i16>(value)); break;
+        case kU32: put(saturate<u32>(value)); break;
+        case kI32: put(saturate<i32>(value)); break;
+        case kF32: put(saturate<f32>(value)); break;
+        case kF64: put(value); break;
+    }
+}
+
+std::optional<f64> Host::field_value(std::string_view name) const {
+    const FieldInfo* f = field(name);
+    if (f == nullptr) return std::nullopt;
+    return read_field(*f);
+}
+
+bool Host::set_field(std::string_view name, f64 value) {
+    const FieldInfo* f = field(name);
+    if (f == nullptr) return false;
+    write_field(*f, value);
+    return true;
+}
+
+// ---------------------------------------------------------------- elements
+
+Element* Host::element(GaugeHeader* g, int n) {
+    if (g == nullptr || g->elements == nullptr || n < 0) return nullptr;
+    Element* e = g->elements[0];
+    for (int i = 0; i < n && e != nullptr; ++i) e = e->children ? e->children[0] : nullptr;
+    return e;
+}
+
+int Host::chain_length(GaugeHeader* g) {
+    int n = 0;
+    while (element(g, n) != nullptr) ++n;
+    return n;
+}
+
+int Host::child_rows(GaugeHeader* g) {
+    int n = 0;
+    if (g && g->mouse)
+        for (MouseRect* r = g->mouse; r->row != kRowEnd; ++r) n += r->row == kRowChild;
+    return n;
+}
+
+}  // namespace kestrane::host

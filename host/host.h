@@ -1,0 +1,156 @@
+// The stand-in host: loads the gauge module the way the simulator does and
+// drives it (installs gauges, runs update cycles, dispatches the mouse),
+// answering the module's service calls from its own tables.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "frame/gauge_abi.h"
+
+namespace kestrane::host {
+
+struct KeyEvent {
+    u32 event;
+    u32 value;
+};
+
+// One loaded copy of the module library.
+class Module {
+public:
+    // Loads the library at `path`; on failure error() says why.
+    explicit Module(const std::string& path);
+    ~Module();
+    Module(const Module&) = delete;
+    Module& operator=(const Module&) = delete;
+
+    bool ok() const { return handle_ != nullptr && linkage_ != nullptr; }
+    const std::string& error() const { return error_; }
+    void* handle() const { return handle_; }
+    ModuleLinkage* linkage() const { return linkage_; }
+    ModuleImports* imports() const { return imports_; }
+    const FieldTable* fields() const { return fields_; }
+
+private:
+    void* handle_ = nullptr;
+    ModuleLinkage* linkage_ = nullptr;
+    ModuleImports* imports_ = nullptr;
+    const FieldTable* fields_ = nullptr;
+    std::string error_;
+};
+
+// Default location of the module library built beside the host.
+std::string default_module_path();
+
+class Host {
+public:
+    explicit Host(std::string module_path = default_module_path());
+    ~Host();
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    bool ok() const { return module_ && module_->ok(); }
+    const std::string& error() const { return error_; }
+
+    // Unloads and loads the module again: every field at its value at load, no
+    // gauge installed, tokens, named variables and windows cleared.
+    bool reload();
+
+    // Registry.
+    int gauge_count() const;
+    GaugeHeader* gauge(int index) const;
+    GaugeHeader* gauge(std::string_view name) const;
+    int gauge_index(std::string_view name) const;
+
+    // Installed gauges, in install order.
+    void install(GaugeHeader* g);
+    void install_all();
+    void remove(GaugeHeader* g);
+    bool installed(const GaugeHeader* g) const;
+    const std::vector<GaugeHeader*>& installed_gauges() const { return installed_; }
+
+    // Update cycles: tokens 1 and 604 advance, then each installed gauge gets
+    // service 6 and is drawn.
+    void run(int cycles);
+    // Draws one gauge: value and string callbacks of its shown elements.
+    void draw(GaugeHeader* g);
+
+    // Mouse: the first child row whose box holds (x, y) and whose flags name
+    // the event. Returns false when no row matches.
+    static MouseRect* hit(GaugeHeader* g, int x, int y, u32 event_flags);
+    bool click(GaugeHeader* g, int x, int y, u32 flags = kMouseLeft);
+    bool hold(GaugeHeader* g, int x, int y, int cycles);
+
+    // Tokens (8 bytes each).
+    void set_token(u32 id, f64 value);
+    void set_token_bcd(u32 id, u32 bcd);
+    f64 token(u32 id) const;
+    void read_token(u32 id, u8 out[8]) const;
+
+    // Named variables.
+    void set_named(std::string_view name, f64 value);
+    std::optional<f64> named(std::string_view name) const;
+
+    // Calculator expressions answer the values the test sets (0 otherwise).
+    void set_calc(std::string_view expression, f64 value);
+
+    // Panel windows.
+    bool window_open(u32 ident) const;
+
+    // Key events sent since the last clear.
+    const std::vector<KeyEvent>& events() const { return events_; }
+    void clear_events() { events_.clear(); }
+
+    // State fields.
+    const FieldInfo* field(std::string_view name) const;
+    f64 read_field(const FieldInfo& f) const;
+    void write_field(const FieldInfo& f, f64 value);
+    std::optional<f64> field_value(std::string_view name) const;
+    bool set_field(std::string_view name, f64 value);
+    const FieldTable* field_table() const { return module_ ? module_->fields() : nullptr; }
+
+    // Elements by chain number (e0 background).
+    static Element* element(GaugeHeader* g, int n);
+    static int chain_length(GaugeHeader* g);
+    static int child_rows(GaugeHeader* g);
+
+    // Service-table entry points (the host is single-threaded; one host at a time).
+    void svc_lookup_var(ModuleVar* var);
+    void svc_trigger_key_event(u32 event, u32 value);
+    u32 svc_panel_window_toggle(u32 ident);
+    u32 svc_register_named(const char* name);
+    f64 svc_get_named(u32 id) const;
+    void svc_set_named(u32 id, f64 value);
+    u32 svc_calc(const char* code, f64* result);
+
+private:
+    void reset_tables();
+    void draw_element(Element* e, int depth);
+    void window_set(u32 ident, bool open);
+
+    std::string module_path_;
+    std::unique_ptr<Module> module_;
+    std::string error_;
+    HostServices services_{};
+
+    std::vector<GaugeHeader*> installed_;
+    std::unordered_map<std::string_view, int> gauge_by_name_;
+    std::unordered_map<std::string_view, const FieldInfo*> field_by_name_;
+
+    static constexpr u32 kDirectTokens = 4096;
+    std::vector<std::array<u8, 8>> tokens_;                   // ids below kDirectTokens
+    std::unordered_map<u32, std::array<u8, 8>> far_tokens_;  // the rest
+    std::vector<std::pair<std::string, f64>> named_;
+    std::map<std::string, f64, std::less<>> calc_;
+    std::vector<u32> windows_;  // open panel windows
+    std::vector<KeyEvent> events_;
+};
+
+}  // namespace kestrane::host

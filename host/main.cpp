@@ -1,0 +1,77 @@
+// kestrane-host: loads the gauge module and runs it headless.
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "host/host.h"
+#include "host/scenario.h"
+
+namespace {
+
+using namespace kestrane;
+using namespace kestrane::host;
+
+int usage() {
+    std::cerr << "usage: kestrane-host [--module PATH] run FILE|DIR...\n"
+                 "       kestrane-host [--module PATH] gauges\n"
+                 "       kestrane-host [--module PATH] fields\n";
+    return 2;
+}
+
+std::string number_text(double v, FieldType t) {
+    char buf[64];
+    if (t == kF32 || t == kF64)
+        std::snprintf(buf, sizeof buf, "%.9g", v);
+    else
+        std::snprintf(buf, sizeof buf, "%.0f", v);
+    return buf;
+}
+
+int list_gauges(Host& host) {
+    for (int i = 0; i < host.gauge_count(); ++i) {
+        GaugeHeader* g = host.gauge(i);
+        std::cout << i << '\t' << g->name << '\t' << g->size_x_mm << '\t'
+                  << (g->callback ? "callback" : "none") << '\t' << Host::chain_length(g) << '\t'
+                  << Host::child_rows(g) << '\n';
+    }
+    return 0;
+}
+
+int list_fields(Host& host) {
+    const FieldTable* t = host.field_table();
+    if (t == nullptr) {
+        std::cerr << "the module exports no field table\n";
+        return 2;
+    }
+    for (u32 i = 0; i < t->count; ++i) {
+        const FieldInfo& f = t->fields[i];
+        std::cout << f.name << '\t' << field_type_name(f.type) << '\t'
+                  << number_text(host.read_field(f), f.type) << '\n';
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::vector<std::string> args(argv + 1, argv + argc);
+    std::string module = default_module_path();
+    if (args.size() >= 2 && args[0] == "--module") {
+        module = args[1];
+        args.erase(args.begin(), args.begin() + 2);
+    }
+    if (args.empty()) return usage();
+    Host host(module);
+    if (!host.ok()) {
+        std::cerr << host.error() << '\n';
+        return 2;
+    }
+    const std::string& cmd = args[0];
+    if (cmd == "gauges" && args.size() == 1) return list_gauges(host);
+    if (cmd == "fields" && args.size() == 1) return list_fields(host);
+    if (cmd == "run" && args.size() >= 2)
+        return run_paths(std::vector<std::string>(args.begin() + 1, args.end()), host, std::cout);
+    return usage();
+}

@@ -1,0 +1,92 @@
+// Scenario scripts: parsing and running them against the stand-in host.
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "host/host.h"
+
+namespace kestrane::host {
+
+enum class CmpOp { Eq, Ne, Lt, Le, Gt, Ge, Near };
+
+enum class CmdKind {
+    GaugesAll,
+    Gauges,
+    Remove,
+    AircraftOff,
+    AircraftDefault,
+    Token,
+    TokenBcd,
+    Named,
+    Calc,
+    Set,
+    Run,
+    Click,
+    RClick,
+    Move,
+    Hold,
+    ExpectField,
+    ExpectToken,
+    ExpectNamed,
+    ExpectEvent,
+    ExpectEventValue,
+    ExpectEventCount,
+    ExpectNoEvent,
+    ExpectNoEvents,
+    ExpectSound,
+    ExpectShown,
+    ExpectHidden,
+    ExpectWindowOpen,
+    ExpectWindowClosed,
+};
+
+enum class SoundCheck { Played, PlayedCount, Looping, Stopped, Silent, Playing, Idle, Volume };
+
+struct Command {
+    int line = 0;
+    CmdKind kind{};
+    std::vector<int> gauges;  // registry indices
+    std::string name;         // field, named variable, expression or sound
+    std::uint32_t id = 0;     // token, event or window
+    double value = 0.0;
+    double tolerance = 0.0;
+    CmpOp op = CmpOp::Eq;
+    SoundCheck sound = SoundCheck::Played;
+    int x = 0, y = 0, n = 0;
+};
+
+struct Script {
+    std::string file;
+    std::vector<Command> commands;
+};
+
+struct ParseError {
+    std::string file;
+    int line = 0;
+    std::string message;
+};
+
+// Parses `text` as the script `file`. Names are checked against the module
+// loaded in `host` (gauges, fields, mouse areas). Returns false and fills
+// `error` on the first fault.
+bool parse_script(const std::string& file, const std::string& text, const Host& host,
+                  Script& script, ParseError& error);
+
+struct RunTotals {
+    int passed = 0;
+    int failed = 0;
+};
+
+// Runs one parsed script on a freshly loaded module; failed checks are
+// written to `out` as FILE:LINE: expected ..., got ...
+void run_script(const Script& script, Host& host, RunTotals& totals, std::ostream& out);
+
+// The whole runner: files and folders (every *.scn inside, by name). Prints
+// failures, parse errors and the closing "N passed, N failed" line; returns
+// the exit status (0, 1 or 2).
+int run_paths(const std::vector<std::string>& paths, Host& host, std::ostream& out);
+
+}  // namespace kestrane::host

@@ -1,0 +1,12 @@
+// kestrane warn_stall_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(warn_stall,
+    gauge("kestrane warn_stall_jm47", 80, update)
+        .elements(image(22816, 0x4001)))  // e0

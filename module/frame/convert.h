@@ -1,0 +1,28 @@
+// Conversions from host doubles to whole numbers: truncate toward zero,
+// saturate at the type's range, NaN becomes 0.
+#pragma once
+
+#include <limits>
+
+#include "frame/gauge_abi.h"
+
+namespace kestrane {
+
+template <class T>
+constexpr T trunc_to(f64 v) {
+    if (!(v == v)) return T{0};
+    if constexpr (std::numeric_limits<T>::is_integer) {
+        constexpr f64 lo = static_cast<f64>(std::numeric_limits<T>::min());
+        constexpr f64 hi = static_cast<f64>(std::numeric_limits<T>::max());
+        if (v <= lo) return std::numeric_limits<T>::min();
+        if (v >= hi) return std::numeric_limits<T>::max();
+        return static_cast<T>(v);
+    } else {
+        constexpr f64 hi = static_cast<f64>(std::numeric_limits<T>::max());
+        if (v > hi) return std::numeric_limits<T>::max();
+        if (v < -hi) return std::numeric_limits<T>::lowest();
+        return static_cast<T>(v);
+    }
+}
+
+}  // namespace kestrane

@@ -1,0 +1,33 @@
+// Thin wrappers over the host's service table. Before the host has written
+// its table into ImportTable every call does nothing and returns 0.
+#pragma once
+
+#include "frame/gauge_abi.h"
+
+namespace kestrane {
+
+// Service ids the gauge callbacks act on.
+inline constexpr u32 kServiceInstall = 2;
+inline constexpr u32 kServiceUpdate = 6;
+inline constexpr u32 kServiceKill = 12;
+
+namespace host {
+
+const HostServices* services();
+
+// Refreshes a token variable and returns its value as a number.
+f64 read(ModuleVar& var);
+// Refreshes a token variable and returns the 32-bit whole number in its first
+// four bytes (radio frequencies in BCD).
+u32 read_bcd(ModuleVar& var);
+
+void send_event(u32 event, u32 value = 0);
+u32 window_toggle(u32 ident);
+
+f64 named_get(const char* name);
+void named_set(const char* name, f64 value);
+
+f64 calc(const char* expression);
+
+}  // namespace host
+}  // namespace kestrane

@@ -1,0 +1,12 @@
+// kestrane iasmini_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(iasmini,
+    gauge("kestrane iasmini_jm47", 206, update)
+        .elements(image(29088, 0x4001)))  // e0

@@ -1,0 +1,12 @@
+// kestrane toggle_pan_up3: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(toggle_pan_up3,
+    gauge("kestrane toggle_pan_up3", 85, update).tip("display/hide Upper3 panel")
+        .elements(image(112, 0x40004003)))  // e0

@@ -1,0 +1,12 @@
+// kestrane elec_ac_altvoltsel_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(elec_ac_altvoltsel,
+    gauge("kestrane elec_ac_altvoltsel_jm47", 112, update)
+        .elements(image(26592, 0x4001)))  // e0

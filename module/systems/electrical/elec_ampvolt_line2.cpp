@@ -1,0 +1,6 @@
+// kestrane elec_ampvolt_line2_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+KESTRANE_GAUGE(elec_ampvolt_line2,
+    gauge("kestrane elec_ampvolt_line2_jm47", 137, nullptr)
+        .elements(image(26640, 0x4001)))  // e0

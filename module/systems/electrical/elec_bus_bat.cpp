@@ -1,0 +1,12 @@
+// kestrane elec_bus_bat_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(elec_bus_bat,
+    gauge("kestrane elec_bus_bat_jm47", 298, update)
+        .elements(image(26288, 0x4001)))  // e0

@@ -1,0 +1,12 @@
+// kestrane th_val_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(th_val,
+    gauge("kestrane th_val_jm47", 123, update)
+        .elements(image(21824, 0x4001)))  // e0

@@ -1,0 +1,12 @@
+// kestrane askidgreen_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(askidgreen,
+    gauge("kestrane askidgreen_jm47", 15, update)
+        .elements(image(29056, 0x4001)))  // e0

@@ -1,0 +1,12 @@
+// kestrane Gearh_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(gearh,
+    gauge("kestrane Gearh_jm47", 15, update)
+        .elements(image(28976, 0x4001)))  // e0

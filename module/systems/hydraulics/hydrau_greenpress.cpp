@@ -1,0 +1,12 @@
+// kestrane hydrau_greenpress_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(hydrau_greenpress,
+    gauge("kestrane hydrau_greenpress_jm47", 96, update)
+        .elements(image(26720, 0x4001)))  // e0

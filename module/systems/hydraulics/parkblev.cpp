@@ -1,0 +1,12 @@
+// kestrane ParkBLev_jm47: background only so far.
+#include "frame/gauge_def.h"
+
+namespace {
+using namespace kestrane;
+
+void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+}  // namespace
+
+KESTRANE_GAUGE(parkblev,
+    gauge("kestrane ParkBLev_jm47", 31, update)
+        .elements(image(27008, 0x4001)))  // e0

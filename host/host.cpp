@@ -95,6 +95,7 @@ Host::Host(std::string module_path) : module_path_(std::move(module_path)) {
 }
 
 Host::~Host() {
+    if (module_ && module_->ok()) module_->imports()->entries[0].ptr = nullptr;
     module_.reset();
     if (g_host == this) g_host = nullptr;
 }
@@ -112,6 +113,7 @@ void Host::reset_tables() {
 }
 
 bool Host::reload() {
+    if (module_ && module_->ok()) module_->imports()->entries[0].ptr = nullptr;
     module_.reset();
     reset_tables();
     error_.clear();

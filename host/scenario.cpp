@@ -470,124 +470,137 @@ bool parse_script(const std::string& file, const std::string& text, const Host& 
     return true;
 }
 
-void run_script(const Script& script, Host& host, RunTotals& totals, std::ostream& out) {
-    if (!host.reload()) {
-        out << script.file << ":1: " << host.error() << "\n";
-        ++totals.failed;
-        return;
-    }
-    auto check = [&](const Command& c, bool pass, const std::string& expected, const std::string& got) {
-        if (pass) {
-            ++totals.passed;
+Runner::Runner(Host& host, RunTotals& totals, std::ostream& out)
+    : host_(host), totals_(totals), out_(out) {}
+
+bool Runner::begin(const std::string& file) {
+    file_ = file;
+    if (host_.reload()) return true;
+    out_ << file << ":1: " << host_.error() << "\n";
+    ++totals_.failed;
+    return false;
+}
+
+void Runner::fail(const Command& c, const std::string& expected, const std::string& got) {
+    ++totals_.failed;
+    out_ << file_ << ":" << c.line << ": expected " << expected << ", got " << got << "\n";
+}
+
+int Runner::count_event(u32 id, const double* value) const {
+    int n = 0;
+    for (const KeyEvent& e : host_.events())
+        if (e.event == id && (value == nullptr || e.value == *value)) ++n;
+    return n;
+}
+
+void Runner::execute(const Command& c) {
+    if (is_step(c.kind)) host_.clear_events();
+    GaugeHeader* g = c.gauges.empty() ? nullptr : host_.gauge(c.gauges[0]);
+    // Messages are built only for failed checks, so that passing checks cost nothing.
+    bool pass = true;
+    switch (c.kind) {
+        case CmdKind::GaugesAll: host_.install_all(); return;
+        case CmdKind::Gauges:
+            for (int i : c.gauges) host_.install(host_.gauge(i));
             return;
-        }
-        ++totals.failed;
-        out << script.file << ":" << c.line << ": expected " << expected << ", got " << got << "\n";
-    };
-    auto count_event = [&](u32 id, const double* value) {
-        int n = 0;
-        for (const KeyEvent& e : host.events())
-            if (e.event == id && (value == nullptr || e.value == *value)) ++n;
-        return n;
-    };
-    auto values_of = [&](u32 id) {
-        std::string s;
-        for (const KeyEvent& e : host.events())
-            if (e.event == id) s += (s.empty() ? "" : ", ") + fmt(e.value);
-        return s.empty() ? std::string("no such event") : "values " + s;
-    };
-    for (const Command& c : script.commands) {
-        if (is_step(c.kind)) host.clear_events();
-        GaugeHeader* g = c.gauges.empty() ? nullptr : host.gauge(c.gauges[0]);
-        switch (c.kind) {
-            case CmdKind::GaugesAll: host.install_all(); break;
-            case CmdKind::Gauges:
-                for (int i : c.gauges) host.install(host.gauge(i));
-                break;
-            case CmdKind::Remove: host.remove(g); break;
-            case CmdKind::AircraftOff:
-            case CmdKind::AircraftDefault: break;
-            case CmdKind::Token: host.set_token(c.id, c.value); break;
-            case CmdKind::TokenBcd: host.set_token_bcd(c.id, static_cast<u32>(c.value)); break;
-            case CmdKind::Named: host.set_named(c.name, c.value); break;
-            case CmdKind::Calc: host.set_calc(c.name, c.value); break;
-            case CmdKind::Set: host.set_field(c.name, c.value); break;
-            case CmdKind::Run: host.run(c.n); break;
-            case CmdKind::Click: host.click(g, c.x, c.y, kMouseLeft); break;
-            case CmdKind::RClick: host.click(g, c.x, c.y, kMouseRight); break;
-            case CmdKind::Move: host.click(g, c.x, c.y, kMouseMove); break;
-            case CmdKind::Hold: host.hold(g, c.x, c.y, c.n); break;
-            case CmdKind::ExpectField:
-            case CmdKind::ExpectToken:
-            case CmdKind::ExpectNamed: {
-                double v = 0;
-                std::string what;
-                if (c.kind == CmdKind::ExpectField) {
-                    v = host.field_value(c.name).value_or(0.0);
-                    what = c.name;
-                } else if (c.kind == CmdKind::ExpectToken) {
-                    v = host.token(c.id);
-                    what = "token " + fmt(c.id);
-                } else {
-                    v = host.named(c.name).value_or(0.0);
-                    what = "named \"" + c.name + "\"";
-                }
+        case CmdKind::Remove: host_.remove(g); return;
+        case CmdKind::AircraftOff:
+        case CmdKind::AircraftDefault: return;
+        case CmdKind::Token: host_.set_token(c.id, c.value); return;
+        case CmdKind::TokenBcd: host_.set_token_bcd(c.id, static_cast<u32>(c.value)); return;
+        case CmdKind::Named: host_.set_named(c.name, c.value); return;
+        case CmdKind::Calc: host_.set_calc(c.name, c.value); return;
+        case CmdKind::Set: host_.set_field(c.name, c.value); return;
+        case CmdKind::Run: host_.run(c.n); return;
+        case CmdKind::Click: host_.click(g, c.x, c.y, kMouseLeft); return;
+        case CmdKind::RClick: host_.click(g, c.x, c.y, kMouseRight); return;
+        case CmdKind::Move: host_.click(g, c.x, c.y, kMouseMove); return;
+        case CmdKind::Hold: host_.hold(g, c.x, c.y, c.n); return;
+        case CmdKind::ExpectField:
+        case CmdKind::ExpectToken:
+        case CmdKind::ExpectNamed: {
+            double v = c.kind == CmdKind::ExpectField   ? host_.field_value(c.name).value_or(0.0)
+                       : c.kind == CmdKind::ExpectToken ? host_.token(c.id)
+                                                        : host_.named(c.name).value_or(0.0);
+            pass = compare(v, c.op, c.value, c.tolerance);
+            if (!pass) {
+                std::string what = c.kind == CmdKind::ExpectField   ? c.name
+                                   : c.kind == CmdKind::ExpectToken ? "token " + fmt(c.id)
+                                                                    : "named \"" + c.name + "\"";
                 std::string expected = what + " " + op_text(c.op) + " " + fmt(c.value);
                 if (c.op == CmpOp::Near) expected += " +/- " + fmt(c.tolerance);
-                check(c, compare(v, c.op, c.value, c.tolerance), expected, fmt(v));
-                break;
+                fail(c, expected, fmt(v));
             }
-            case CmdKind::ExpectEvent: {
-                int n = count_event(c.id, nullptr);
-                check(c, n > 0, "event " + fmt(c.id), "none");
-                break;
+            break;
+        }
+        case CmdKind::ExpectEvent:
+            pass = count_event(c.id, nullptr) > 0;
+            if (!pass) fail(c, "event " + fmt(c.id), "none");
+            break;
+        case CmdKind::ExpectEventValue:
+            pass = count_event(c.id, &c.value) > 0;
+            if (!pass) {
+                std::string values;
+                for (const KeyEvent& e : host_.events())
+                    if (e.event == c.id) values += (values.empty() ? "" : ", ") + fmt(e.value);
+                fail(c, "event " + fmt(c.id) + " value " + fmt(c.value),
+                     values.empty() ? std::string("no such event") : "values " + values);
             }
-            case CmdKind::ExpectEventValue: {
-                int n = count_event(c.id, &c.value);
-                check(c, n > 0, "event " + fmt(c.id) + " value " + fmt(c.value), values_of(c.id));
-                break;
-            }
-            case CmdKind::ExpectEventCount: {
-                int n = count_event(c.id, nullptr);
-                check(c, n == c.n, "event " + fmt(c.id) + " count " + fmt(c.n), fmt(n));
-                break;
-            }
-            case CmdKind::ExpectNoEvent: {
-                int n = count_event(c.id, nullptr);
-                check(c, n == 0, "no event " + fmt(c.id), fmt(n) + " of it");
-                break;
-            }
-            case CmdKind::ExpectNoEvents: {
+            break;
+        case CmdKind::ExpectEventCount: {
+            int n = count_event(c.id, nullptr);
+            pass = n == c.n;
+            if (!pass) fail(c, "event " + fmt(c.id) + " count " + fmt(c.n), fmt(n));
+            break;
+        }
+        case CmdKind::ExpectNoEvent: {
+            int n = count_event(c.id, nullptr);
+            pass = n == 0;
+            if (!pass) fail(c, "no event " + fmt(c.id), fmt(n) + " of it");
+            break;
+        }
+        case CmdKind::ExpectNoEvents:
+            pass = host_.events().empty();
+            if (!pass) {
                 std::string list;
-                for (const KeyEvent& e : host.events())
+                for (const KeyEvent& e : host_.events())
                     list += (list.empty() ? "" : ", ") + fmt(e.event);
-                check(c, host.events().empty(), "no events", list);
-                break;
+                fail(c, "no events", list);
             }
-            case CmdKind::ExpectSound:
-                check(c, false, "a sound check on \"" + c.name + "\"",
-                      "no sound device: this host has no sound player yet");
-                break;
-            case CmdKind::ExpectShown:
-            case CmdKind::ExpectHidden: {
-                Element* e = Host::element(g, c.n);
-                bool shown = e != nullptr && (e->flags & kHidden) == 0;
-                bool want = c.kind == CmdKind::ExpectShown;
-                check(c, shown == want,
-                      "e" + fmt(c.n) + " of \"" + g->name + "\" " + (want ? "shown" : "hidden"),
-                      shown ? "shown" : "hidden");
-                break;
-            }
-            case CmdKind::ExpectWindowOpen:
-            case CmdKind::ExpectWindowClosed: {
-                bool open = host.window_open(c.id);
-                bool want = c.kind == CmdKind::ExpectWindowOpen;
-                check(c, open == want, "window " + fmt(c.id) + (want ? " open" : " closed"),
-                      open ? "open" : "closed");
-                break;
-            }
+            break;
+        case CmdKind::ExpectSound:
+            pass = false;
+            fail(c, "a sound check on \"" + c.name + "\"",
+                 "no sound device: this host has no sound player yet");
+            break;
+        case CmdKind::ExpectShown:
+        case CmdKind::ExpectHidden: {
+            Element* e = Host::element(g, c.n);
+            bool shown = e != nullptr && (e->flags & kHidden) == 0;
+            bool want = c.kind == CmdKind::ExpectShown;
+            pass = shown == want;
+            if (!pass)
+                fail(c, "e" + fmt(c.n) + " of \"" + g->name + "\" " + (want ? "shown" : "hidden"),
+                     shown ? "shown" : "hidden");
+            break;
+        }
+        case CmdKind::ExpectWindowOpen:
+        case CmdKind::ExpectWindowClosed: {
+            bool open = host_.window_open(c.id);
+            bool want = c.kind == CmdKind::ExpectWindowOpen;
+            pass = open == want;
+            if (!pass)
+                fail(c, "window " + fmt(c.id) + (want ? " open" : " closed"), open ? "open" : "closed");
+            break;
         }
     }
+    if (pass) ++totals_.passed;
+}
+
+void run_script(const Script& script, Host& host, RunTotals& totals, std::ostream& out) {
+    Runner runner(host, totals, out);
+    if (!runner.begin(script.file)) return;
+    for (const Command& c : script.commands) runner.execute(c);
 }
 
 int run_paths(const std::vector<std::string>& paths, Host& host, std::ostream& out) {

@@ -63,6 +63,11 @@ struct Script {
     std::vector<Command> commands;
 };
 
+struct RunTotals {
+    int passed = 0;
+    int failed = 0;
+};
+
 struct ParseError {
     std::string file;
     int line = 0;
@@ -75,9 +80,22 @@ struct ParseError {
 bool parse_script(const std::string& file, const std::string& text, const Host& host,
                   Script& script, ParseError& error);
 
-struct RunTotals {
-    int passed = 0;
-    int failed = 0;
+// Runs the commands of one script, one at a time.
+class Runner {
+public:
+    Runner(Host& host, RunTotals& totals, std::ostream& out);
+    // Loads the module afresh for the script `file`.
+    bool begin(const std::string& file);
+    void execute(const Command& c);
+
+private:
+    void fail(const Command& c, const std::string& expected, const std::string& got);
+    int count_event(std::uint32_t id, const double* value) const;
+
+    Host& host_;
+    RunTotals& totals_;
+    std::ostream& out_;
+    std::string file_;
 };
 
 // Runs one parsed script on a freshly loaded module; failed checks are

@@ -1,0 +1,103 @@
+// Heap allocations in the steady state: none per update cycle, click, hold
+// or scenario step once the host and module have started. Counts every
+// malloc of the process (host, module and C runtime) by replacing it.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <sstream>
+#include <string>
+
+#include "host/scenario.h"
+
+extern "C" {
+void* __libc_malloc(std::size_t);
+void* __libc_calloc(std::size_t, std::size_t);
+void* __libc_realloc(void*, std::size_t);
+void __libc_free(void*);
+}
+
+namespace {
+std::size_t g_allocations = 0;
+}
+
+extern "C" {
+void* malloc(std::size_t n) {
+    ++g_allocations;
+    return __libc_malloc(n);
+}
+void* calloc(std::size_t n, std::size_t m) {
+    ++g_allocations;
+    return __libc_calloc(n, m);
+}
+void* realloc(void* p, std::size_t n) {
+    ++g_allocations;
+    return __libc_realloc(p, n);
+}
+void free(void* p) { __libc_free(p); }
+}
+
+namespace {
+
+using namespace kestrane;
+using namespace kestrane::host;
+
+TEST(Allocations, NonePerCycleClickOrHoldWithEveryGaugeInstalled) {
+    Host host;
+    ASSERT_TRUE(host.ok()) << host.error();
+    host.install_all();
+    host.set_token(905, 1e308);
+    host.run(20);  // start-up: named variables registered, logs sized
+    GaugeHeader* diag = host.gauge("testgauge2k");
+    std::size_t before = g_allocations;
+    {
+        std::string probe(200, 'x');  // the counter itself works
+        EXPECT_GT(g_allocations, before);
+    }
+    before = g_allocations;
+    host.run(500);
+    EXPECT_EQ(g_allocations - before, 0u) << "update cycles allocate";
+    before = g_allocations;
+    for (int i = 0; i < 100; ++i) host.click(diag, 3, 3);
+    host.hold(diag, 3, 3, 50);
+    EXPECT_EQ(g_allocations - before, 0u) << "mouse dispatch allocates";
+}
+
+TEST(Allocations, NoneInScenarioStepsAndPassingChecks) {
+    Host host;
+    ASSERT_TRUE(host.ok());
+    Script script;
+    ParseError error;
+    ASSERT_TRUE(parse_script("steps.scn",
+                             "gauges all\n"
+                             "run 20\n"
+                             "click \"testgauge2k\" 1 1\n"
+                             "hold \"testgauge2k\" 1 1 4\n"
+                             "expect token 1 >= 20\n"
+                             "expect elec_master_sw == 2\n"
+                             "expect no events\n"
+                             "expect no event 65568\n"
+                             "expect event 65568 count 0\n"
+                             "expect hidden \"testgauge2k\" 1\n"
+                             "expect window 10090 closed\n"
+                             "expect named \"airport_extpwr_connected\" == 0\n",
+                             host, script, error))
+        << error.message;
+    std::ostringstream out;
+    RunTotals totals;
+    Runner runner(host, totals, out);
+    ASSERT_TRUE(runner.begin("steps.scn"));
+    runner.execute(script.commands[0]);
+    runner.execute(script.commands[1]);  // start-up
+    std::size_t before = g_allocations;
+    for (int round = 0; round < 10; ++round)
+        for (std::size_t i = 1; i < script.commands.size(); ++i) runner.execute(script.commands[i]);
+    EXPECT_EQ(g_allocations - before, 0u);
+    EXPECT_EQ(totals.failed, 0) << out.str();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

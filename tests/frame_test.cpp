@@ -1,0 +1,316 @@
+// The module's records as any host sees them: registry, element chains,
+// mouse tables, the field table and the diagnostic gauge.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <set>
+#include <string>
+
+#include "frame/convert.h"
+#include "host/host.h"
+
+namespace {
+
+using namespace kestrane;
+using kestrane::host::Host;
+
+class Frame : public ::testing::Test {
+protected:
+    Host host;
+    void SetUp() override { ASSERT_TRUE(host.ok()) << host.error(); }
+};
+
+TEST_F(Frame, LinkageRecordsMatchTheHostContract) {
+    void* h = dlopen(host::default_module_path().c_str(), RTLD_NOW | RTLD_LOCAL);
+    ASSERT_NE(h, nullptr);
+    auto* linkage = static_cast<ModuleLinkage*>(dlsym(h, "Linkage"));
+    auto* imports = static_cast<ModuleImports*>(dlsym(h, "ImportTable"));
+    ASSERT_NE(linkage, nullptr);
+    ASSERT_NE(imports, nullptr);
+    EXPECT_EQ(linkage->module_id, 0x13u);
+    EXPECT_EQ(linkage->flags, 0u);
+    EXPECT_EQ(linkage->priority, 0u);
+    EXPECT_EQ(linkage->version, 0x900u);
+    EXPECT_NE(linkage->init, nullptr);
+    EXPECT_NE(linkage->deinit, nullptr);
+    EXPECT_EQ(linkage->gauges[219], nullptr);
+    EXPECT_EQ(imports->entries[0].id, 0xFu);
+    EXPECT_EQ(imports->entries[1].id, 0u);
+    EXPECT_EQ(imports->entries[1].ptr, nullptr);
+    dlclose(h);
+}
+
+TEST_F(Frame, EveryHeaderFollowsTheCommonLayout) {
+    ASSERT_EQ(host.gauge_count(), 219);
+    std::set<std::string> names;
+    int without_callback = 0;
+    GaugeHeader* first = host.gauge(0);
+    for (int i = 0; i < 219; ++i) {
+        GaugeHeader* g = host.gauge(i);
+        SCOPED_TRACE(g->name);
+        EXPECT_EQ(g->version, 0x320u);
+        EXPECT_TRUE(names.insert(g->name).second) << "duplicate name";
+        EXPECT_GT(g->size_x_mm, 0u);
+        EXPECT_EQ(g->size_y_mm, 0u);
+        EXPECT_EQ(g->reserved1, nullptr);
+        // the seven shared routines
+        EXPECT_EQ(g->query, first->query);
+        EXPECT_EQ(g->install, first->install);
+        EXPECT_EQ(g->initialize, first->initialize);
+        EXPECT_EQ(g->update, first->update);
+        EXPECT_EQ(g->generate, first->generate);
+        EXPECT_EQ(g->draw, first->draw);
+        EXPECT_EQ(g->kill, first->kill);
+        ASSERT_NE(g->elements, nullptr);
+        EXPECT_EQ(g->elements[1], nullptr) << "the element list holds e0 alone";
+        Element* e0 = g->elements[0];
+        ASSERT_NE(e0, nullptr);
+        EXPECT_EQ(e0->kind, kStaticImage);
+        // mouse table: parent first, optional tooltip, children, end of parent, end
+        ASSERT_NE(g->mouse, nullptr);
+        EXPECT_EQ(g->mouse[0].row, kRowParent);
+        int r = 1;
+        if (g->mouse[r].row == kRowTooltip) {
+            EXPECT_NE(g->mouse[r].u.tooltip, nullptr);
+            ++r;
+        }
+        while (g->mouse[r].row == kRowChild) {
+            EXPECT_NE(g->mouse[r].u.handler, nullptr);
+            EXPECT_EQ(g->mouse[r].event_id, 0u);
+            ++r;
+        }
+        EXPECT_EQ(g->mouse[r].row, kRowEndParent);
+        EXPECT_EQ(g->mouse[r + 1].row, kRowEnd);
+        without_callback += g->callback == nullptr;
+    }
+    EXPECT_EQ(without_callback, 17);
+    EXPECT_STREQ(host.gauge(0)->name, "testgauge2k");
+    EXPECT_STREQ(host.gauge(218)->name, "kestrane panload");
+    EXPECT_STREQ(host.gauge(63)->name, "kestrane ParkBLev_jm47");
+    EXPECT_EQ(host.gauge(42)->size_x_mm, 1279u);
+}
+
+TEST_F(Frame, ElementsBelongToTheirGaugeAndChainsEnd) {
+    for (int i = 0; i < host.gauge_count(); ++i) {
+        GaugeHeader* g = host.gauge(i);
+        SCOPED_TRACE(g->name);
+        int n = Host::chain_length(g);
+        ASSERT_GE(n, 1);
+        ASSERT_LE(n, 64);
+        for (int k = 0; k < n; ++k) {
+            Element* e = Host::element(g, k);
+            EXPECT_EQ(e->gauge, g);
+            EXPECT_EQ(e->previous, nullptr);
+            if (e->kind == kString) {
+                EXPECT_EQ(e->bitmap, 0xFFFFFFFFu);
+            }
+        }
+    }
+}
+
+TEST_F(Frame, DiagnosticGaugeDeclaration) {
+    GaugeHeader* g = host.gauge("testgauge2k");
+    ASSERT_NE(g, nullptr);
+    EXPECT_EQ(g->mouse[0].help_id, 0xAA1Au);
+    Element* e0 = Host::element(g, 0);
+    EXPECT_EQ(e0->bitmap, 1u);
+    EXPECT_EQ(e0->flags, 0x1u);
+    Element* e1 = Host::element(g, 1);
+    EXPECT_EQ(e1->kind, kIcon);
+    EXPECT_EQ(e1->bitmap, 16u);
+    EXPECT_EQ(e1->flags, 0x40000006u);
+    EXPECT_EQ(Host::chain_length(g), 2);
+    // four string branches of the background, after e1 in its child list
+    const u32 tokens[] = {905, 883, 884, 13};
+    ASSERT_NE(e0->children, nullptr);
+    EXPECT_EQ(e0->children[0], e1);
+    for (int k = 0; k < 4; ++k) {
+        Element* s = e0->children[k + 1];
+        ASSERT_NE(s, nullptr);
+        EXPECT_EQ(s->kind, kString);
+        EXPECT_EQ(s->x, 0);
+        EXPECT_EQ(s->y, 36 * (k + 1));
+        EXPECT_EQ(s->u.str.box_w, 80);
+        EXPECT_EQ(s->u.str.box_h, 30);
+        EXPECT_EQ(s->u.str.char_count, 6u);
+        EXPECT_EQ(s->u.str.fg, 0x0080FFu);
+        EXPECT_EQ(s->u.str.bg, 0u);
+        EXPECT_EQ(s->u.str.highlight, 0x5C5C5Cu);
+        EXPECT_STREQ(s->u.str.font, "Courier New");
+        EXPECT_EQ(s->u.str.font_weight, 400u);
+        EXPECT_EQ(s->u.str.charset, 1);
+        EXPECT_EQ(s->u.str.format, 0x25u);
+        EXPECT_EQ(s->u.str.source.id, tokens[k]);
+        EXPECT_EQ(s->flags, 0x6u);
+    }
+    EXPECT_EQ(e0->children[5], nullptr);
+    EXPECT_EQ(Host::child_rows(g), 1);
+    MouseRect& box = g->mouse[1];
+    EXPECT_EQ(box.x, 0);
+    EXPECT_EQ(box.y, 0);
+    EXPECT_EQ(box.w, 36);
+    EXPECT_EQ(box.h, 17);
+    EXPECT_EQ(box.cursor, kCursorHand);
+    EXPECT_EQ(box.flags, kMouseLeft);
+}
+
+const char* text_of(GaugeHeader* g, int k) { return Host::element(g, 0)->children[k + 1]->u.str.text; }
+
+TEST_F(Frame, DiagnosticLinesShowTokensThenStateWhileFlagged) {
+    GaugeHeader* g = host.gauge("testgauge2k");
+    host.install(g);
+    host.set_token(905, 1.5);
+    host.set_token(883, 2.0);
+    host.set_token(884, -3.25);
+    host.set_token(13, 7.0);
+    host.set_field("fuel_temp_test_lo_rh", 4);
+    host.set_field("fuel_temp_test_hi_rh", 1);
+    host.set_field("warn_alert_code", 9);
+    host.run(1);
+    // six characters of "%1.6f"
+    EXPECT_STREQ(text_of(g, 0), "1.5000");
+    EXPECT_STREQ(text_of(g, 1), "2.0000");
+    EXPECT_STREQ(text_of(g, 2), "-3.250");
+    EXPECT_STREQ(text_of(g, 3), "7.0000");
+    ASSERT_TRUE(host.click(g, 35, 16));
+    host.run(1);
+    EXPECT_STREQ(text_of(g, 0), "1.5000");
+    EXPECT_STREQ(text_of(g, 1), "4.0000");
+    EXPECT_STREQ(text_of(g, 2), "1.0000");
+    EXPECT_STREQ(text_of(g, 3), "9.0000");
+    ASSERT_TRUE(host.click(g, 0, 0));
+    host.run(1);
+    EXPECT_STREQ(text_of(g, 1), "2.0000");
+    EXPECT_TRUE(host.events().empty());
+}
+
+TEST_F(Frame, HugeAndNanTokensStayInTheTextBuffer) {
+    GaugeHeader* g = host.gauge("testgauge2k");
+    host.install(g);
+    host.set_token(905, 1e308);
+    host.set_token(883, std::nan(""));
+    host.set_token(884, -1e300);
+    host.run(2);
+    EXPECT_EQ(std::strlen(text_of(g, 0)), 6u);
+    EXPECT_LE(std::strlen(text_of(g, 1)), 6u);
+}
+
+TEST_F(Frame, ClicksOutsideTheBoxOrWithOtherButtonsHitNothing) {
+    GaugeHeader* g = host.gauge("testgauge2k");
+    EXPECT_EQ(Host::hit(g, 36, 0, kMouseLeft), nullptr);
+    EXPECT_EQ(Host::hit(g, 0, 17, kMouseLeft), nullptr);
+    EXPECT_EQ(Host::hit(g, -1, 5, kMouseLeft), nullptr);
+    EXPECT_EQ(Host::hit(g, 5, 5, kMouseRight), nullptr);
+    EXPECT_EQ(Host::hit(g, 5, 5, kMouseMove), nullptr);
+    EXPECT_NE(Host::hit(g, 5, 5, kMouseLeft), nullptr);
+}
+
+TEST_F(Frame, OtherServiceIdsChangeNothing) {
+    // Every gauge gets every service id except 2, 6 and 12; the state and
+    // every element's hidden bit must stay as loaded.
+    const FieldTable* t = host.field_table();
+    std::vector<u8> before(static_cast<u8*>(t->state), static_cast<u8*>(t->state) + t->state_size);
+    std::vector<u32> flags;
+    for (int i = 0; i < host.gauge_count(); ++i)
+        for (int k = 0; Host::element(host.gauge(i), k); ++k) flags.push_back(Host::element(host.gauge(i), k)->flags);
+    for (int i = 0; i < host.gauge_count(); ++i) {
+        GaugeHeader* g = host.gauge(i);
+        if (!g->callback) continue;
+        for (u32 s = 0; s < 32; ++s)
+            if (s != 2 && s != 6 && s != 12) g->callback(g, s, 0xDEADBEEF);
+    }
+    EXPECT_EQ(std::memcmp(before.data(), t->state, t->state_size), 0);
+    std::size_t at = 0;
+    for (int i = 0; i < host.gauge_count(); ++i)
+        for (int k = 0; Host::element(host.gauge(i), k); ++k)
+            EXPECT_EQ(Host::element(host.gauge(i), k)->flags, flags[at++]);
+    EXPECT_TRUE(host.events().empty());
+}
+
+TEST(FrameUnloaded, HostCallsBeforeTheServiceTableDoNothing) {
+    void* h = dlopen(host::default_module_path().c_str(), RTLD_NOW | RTLD_LOCAL);
+    ASSERT_NE(h, nullptr);
+    auto* linkage = static_cast<ModuleLinkage*>(dlsym(h, "Linkage"));
+    // The shared header routines and every callback run with no table written.
+    GaugeHeader* g = linkage->gauges[0];
+    g->query();
+    g->install(1);
+    g->initialize();
+    g->update();
+    g->generate(0);
+    g->draw();
+    g->kill();
+    for (int i = 0; linkage->gauges[i]; ++i)
+        if (linkage->gauges[i]->callback) linkage->gauges[i]->callback(linkage->gauges[i], 6, 0);
+    Element* line = g->elements[0]->children[1];
+    EXPECT_EQ(line->u.str.callback(line), 0.0);
+    EXPECT_STREQ(line->u.str.text, "0.0000");
+    dlclose(h);
+}
+
+TEST_F(Frame, FieldTableCoversTheStateRecord) {
+    const FieldTable* t = host.field_table();
+    ASSERT_NE(t, nullptr);
+    EXPECT_GE(t->count, 400u);
+    std::set<std::string> names;
+    std::vector<bool> used(t->state_size, false);
+    const int sizes[] = {1, 1, 2, 2, 4, 4, 4, 8};
+    for (u32 i = 0; i < t->count; ++i) {
+        const FieldInfo& f = t->fields[i];
+        EXPECT_TRUE(names.insert(f.name).second) << f.name;
+        ASSERT_LE(f.offset + sizes[f.type], t->state_size) << f.name;
+        for (int b = 0; b < sizes[f.type]; ++b) {
+            EXPECT_FALSE(used[f.offset + b]) << f.name << " overlaps another field";
+            used[f.offset + b] = true;
+        }
+        EXPECT_EQ(host.read_field(f), f.load_value) << f.name;
+    }
+    // a few owners' values at load
+    EXPECT_EQ(*host.field_value("elec_master_sw"), 2);
+    EXPECT_EQ(*host.field_value("elec_batt_charge"), 1800);
+    EXPECT_EQ(host.field("elec_batt_charge")->type, kI16);
+    EXPECT_EQ(*host.field_value("fd_gs_vs_target"), -850);
+    EXPECT_EQ(host.field("fd_gs_vs_target")->type, kF64);
+    EXPECT_EQ(*host.field_value("alt_alert_setting"), 25000);
+    EXPECT_EQ(host.field("snd_volume_step")->type, kI8);
+    EXPECT_EQ(host.field("air_cabin_alt")->type, kF32);
+}
+
+TEST_F(Frame, ReloadRestoresEverything) {
+    GaugeHeader* g = host.gauge("testgauge2k");
+    host.install(g);
+    host.click(g, 1, 1);
+    host.set_field("elec_master_sw", 0);
+    host.set_token(905, 3);
+    host.set_named("forward_door_open", 1);
+    host.run(3);
+    ASSERT_TRUE(host.reload());
+    g = host.gauge("testgauge2k");
+    EXPECT_EQ(*host.field_value("elec_master_sw"), 2);
+    EXPECT_EQ(host.token(1), 0);
+    EXPECT_EQ(host.token(905), 0);
+    EXPECT_FALSE(host.named("forward_door_open").has_value());
+    EXPECT_TRUE(host.installed_gauges().empty());
+    // the diagnostic flag is gauge-private: a fresh load starts with it clear
+    host.install(g);
+    host.set_token(883, 2);
+    host.run(1);
+    EXPECT_STREQ(text_of(g, 1), "2.0000");
+}
+
+TEST(Convert, TruncatesTowardZeroAndSaturates) {
+    EXPECT_EQ(trunc_to<i32>(-2.9), -2);
+    EXPECT_EQ(trunc_to<i32>(2.9), 2);
+    EXPECT_EQ(trunc_to<u8>(300.0), 255);
+    EXPECT_EQ(trunc_to<u8>(-1.0), 0);
+    EXPECT_EQ(trunc_to<i16>(1e300), 32767);
+    EXPECT_EQ(trunc_to<i16>(-1e300), -32768);
+    EXPECT_EQ(trunc_to<i32>(std::nan("")), 0);
+    EXPECT_EQ(trunc_to<u32>(4294967295.5), 4294967295u);
+    EXPECT_EQ(trunc_to<f32>(1e300), std::numeric_limits<f32>::max());
+    EXPECT_EQ(trunc_to<f32>(std::nan("")), 0.0f);
+}
+
+}  // namespace

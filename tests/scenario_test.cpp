@@ -1,0 +1,233 @@
+// The scenario runner: parsing, checks, output and exit status.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+#include "host/scenario.h"
+
+namespace {
+
+using namespace kestrane::host;
+
+class Scenario : public ::testing::Test {
+protected:
+    Host host;
+    std::filesystem::path dir;
+
+    void SetUp() override {
+        ASSERT_TRUE(host.ok()) << host.error();
+        dir = std::filesystem::temp_directory_path() /
+              ("kestrane-scn-" + std::to_string(::getpid()) + "-" +
+               ::testing::UnitTest::GetInstance()->current_test_info()->name());
+        std::filesystem::create_directories(dir);
+    }
+    void TearDown() override { std::filesystem::remove_all(dir); }
+
+    std::string write(const std::string& name, const std::string& text) {
+        std::ofstream(dir / name) << text;
+        return (dir / name).string();
+    }
+    // Runs the given files; returns the exit status and the output.
+    std::pair<int, std::string> run(const std::vector<std::string>& paths) {
+        std::ostringstream out;
+        int status = run_paths(paths, host, out);
+        return {status, out.str()};
+    }
+    ParseError parse_error(const std::string& text) {
+        Script s;
+        ParseError e;
+        EXPECT_FALSE(parse_script("x.scn", text, host, s, e)) << text;
+        return e;
+    }
+};
+
+TEST_F(Scenario, PassingScriptExitsZeroWithTotals) {
+    auto f = write("ok.scn",
+                   "# comment only\n"
+                   "\n"
+                   "gauges \"testgauge2k\"   # trailing comment\n"
+                   "run 36\n"
+                   "expect token 1 == 36\n"
+                   "expect token 604 ~= 2 1e-9\n"
+                   "expect elec_master_sw == 2\n"
+                   "expect no events\n");
+    auto [status, out] = run({f});
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(out, "4 passed, 0 failed\n");
+}
+
+TEST_F(Scenario, FailedChecksNameFileAndLineAndRunOn) {
+    auto f = write("fail.scn",
+                   "set elec_batt_charge = 12\n"
+                   "expect elec_batt_charge == 13\n"
+                   "expect elec_batt_charge >= 12\n"
+                   "run 1\n"
+                   "expect event 65568\n"
+                   "expect shown \"testgauge2k\" 1\n"
+                   "expect window 10090 open\n");
+    auto [status, out] = run({f});
+    EXPECT_EQ(status, 1);
+    EXPECT_NE(out.find(f + ":2: expected elec_batt_charge == 13, got 12\n"), std::string::npos) << out;
+    EXPECT_NE(out.find(f + ":5: expected event 65568, got none\n"), std::string::npos) << out;
+    EXPECT_NE(out.find(f + ":6: expected e1 of \"testgauge2k\" shown, got hidden\n"), std::string::npos);
+    EXPECT_NE(out.find(f + ":7: expected window 10090 open, got closed\n"), std::string::npos);
+    EXPECT_TRUE(out.ends_with("1 passed, 4 failed\n")) << out;
+}
+
+TEST_F(Scenario, ParseErrorRunsNothingOfThatScriptAndExitsTwo) {
+    auto good = write("a.scn", "expect elec_master_sw == 2\n");
+    auto bad = write("b.scn", "expect elec_master_sw == 3\nbogus 1\n");
+    auto [status, out] = run({good, bad});
+    EXPECT_EQ(status, 2);
+    EXPECT_NE(out.find(bad + ":2: unknown command 'bogus'"), std::string::npos) << out;
+    // the bad script's failing check on line 1 never ran
+    EXPECT_TRUE(out.ends_with("1 passed, 0 failed\n")) << out;
+}
+
+TEST_F(Scenario, FolderRunsScriptsSortedByNameEachOnAFreshModule) {
+    write("2.scn", "expect elec_master_sw == 2\nexpect token 1 == 0\n");
+    write("1.scn", "set elec_master_sw = 0\nrun 5\n");
+    write("notes.txt", "not a script\n");
+    auto [status, out] = run({dir.string()});
+    EXPECT_EQ(status, 0) << out;
+    EXPECT_EQ(out, "2 passed, 0 failed\n");
+}
+
+TEST_F(Scenario, UnreadableFileIsAnError) {
+    auto [status, out] = run({(dir / "missing.scn").string()});
+    EXPECT_EQ(status, 2);
+    EXPECT_NE(out.find("missing.scn:0: cannot read"), std::string::npos);
+}
+
+TEST_F(Scenario, NumbersAndTokenForms) {
+    Script s;
+    ParseError e;
+    ASSERT_TRUE(parse_script("x.scn",
+                             "token 0x35 = bcd 0x1234\n"
+                             "token 605 = -1e-3\n"
+                             "set elec_dc_volts = 45.5\n"
+                             "named \"TRIM_CORR\" = -12\n"
+                             "calc \"(A:Light cabin,bool)\" = 1\n"
+                             "expect event 0x103CA value 10090\n"
+                             "expect event 65568 count 0\n"
+                             "expect no event 65568\n"
+                             "expect named \"TRIM_CORR\" < 0\n"
+                             "expect token 605 ~= 0 0.01\n"
+                             "expect sound \"CLICK\" played count 2\n"
+                             "expect sound \"GPWSPULLUP\" volume -1000\n"
+                             "expect hidden \"testgauge2k\" 1\n"
+                             "expect window 10090 closed\n"
+                             "hold \"testgauge2k\" 1 1 3\n"
+                             "aircraft off\n",
+                             host, s, e))
+        << e.line << ": " << e.message;
+    EXPECT_EQ(s.commands[0].kind, CmdKind::TokenBcd);
+    EXPECT_EQ(s.commands[0].id, 0x35u);
+    EXPECT_EQ(s.commands[0].value, 0x1234);
+    EXPECT_EQ(s.commands[1].value, -1e-3);
+    EXPECT_EQ(s.commands[5].id, 66506u);
+    EXPECT_EQ(s.commands[5].value, 10090);
+}
+
+TEST_F(Scenario, BcdTokenFillsFirstFourBytes) {
+    auto f = write("bcd.scn", "token 53 = 5.5\ntoken 53 = bcd 0x12345678\nexpect token 53 != 5.5\n");
+    auto [status, out] = run({f});
+    EXPECT_EQ(status, 0) << out;
+    host.set_token_bcd(53, 0x12345678);
+    kestrane::u8 raw[8];
+    host.read_token(53, raw);
+    EXPECT_EQ(raw[0], 0x78);
+    EXPECT_EQ(raw[3], 0x12);
+    EXPECT_EQ(raw[4], 0);
+    EXPECT_EQ(raw[7], 0);
+}
+
+TEST_F(Scenario, BadLinesGiveTheirLineAndReason) {
+    struct Case {
+        const char* text;
+        int line;
+        const char* fragment;
+    } cases[] = {
+        {"run 1\nrun 1.5\n", 2, "whole number"},
+        {"run -1\n", 1, "whole number"},
+        {"run\n", 1, "expected a cycle count"},
+        {"run 10 20\n", 1, "unexpected '20'"},
+        {"token 1 = abc\n", 1, "bad number 'abc'"},
+        {"token 1 = nan\n", 1, "bad number 'nan'"},
+        {"token 1 = 0xZZ\n", 1, "bad number"},
+        {"token 1 = bcd 1.5\n", 1, "whole number"},
+        {"token 1 5\n", 1, "expected '='"},
+        {"set no_such_field = 1\n", 1, "unknown field 'no_such_field'"},
+        {"expect no_such_field == 1\n", 1, "unknown field"},
+        {"expect elec_ess_bus =< 1\n", 1, "unknown comparison '=<'"},
+        {"expect elec_ess_bus ~= 1\n", 1, "tolerance"},
+        {"gauges \"kestrane nothing\"\n", 1, "unknown gauge \"kestrane nothing\""},
+        {"gauges testgauge2k\n", 1, "double quotes"},
+        {"remove \"testgauge2k\"\n", 1, "not installed"},
+        {"\n\nclick \"testgauge2k\" 36 0\n", 3, "hits no mouse area"},
+        {"rclick \"testgauge2k\" 1 1\n", 1, "hits no mouse area"},
+        {"move \"testgauge2k\" 1 1\n", 1, "hits no mouse area"},
+        {"expect sound \"BOOM\" played\n", 1, "unknown sound \"BOOM\""},
+        {"expect sound \"CLICK\" loud\n", 1, "expected played"},
+        {"expect shown \"testgauge2k\" 2\n", 1, "has no element e2"},
+        {"named \"X = 1\n", 1, "unterminated string"},
+        {"aircraft default\n", 1, "aircraft model"},
+        {"aircraft on\n", 1, "'off' or 'default'"},
+        {"expect window 10090 ajar\n", 1, "'open' or 'closed'"},
+        {"expect no thing\n", 1, "'event' or 'events'"},
+        {"hold \"testgauge2k\" 1 1 0\n", 1, "whole number from 1"},
+    };
+    for (const Case& c : cases) {
+        ParseError e = parse_error(c.text);
+        EXPECT_EQ(e.line, c.line) << c.text;
+        EXPECT_NE(e.message.find(c.fragment), std::string::npos) << c.text << " -> " << e.message;
+    }
+}
+
+TEST_F(Scenario, SoundChecksFailClearlyUntilThereIsASoundDevice) {
+    auto f = write("snd.scn", "run 1\nexpect sound \"CLICK\" silent\n");
+    auto [status, out] = run({f});
+    EXPECT_EQ(status, 1);
+    EXPECT_NE(out.find(":2: expected a sound check on \"CLICK\", got no sound device"), std::string::npos)
+        << out;
+}
+
+TEST_F(Scenario, HoldCallsOnceWithoutRepeatAndRunsEveryCycle) {
+    auto f = write("hold.scn",
+                   "gauges \"testgauge2k\"\n"
+                   "hold \"testgauge2k\" 3 3 5\n"
+                   "expect token 1 == 5\n");
+    auto [status, out] = run({f});
+    EXPECT_EQ(status, 0) << out;
+}
+
+// Every script under tests/bad names its faulty line and message on line 1:
+//   # error: LINE: FRAGMENT
+TEST_F(Scenario, BundledBadScriptsAreRejected) {
+    std::filesystem::path bad = std::filesystem::path(KESTRANE_SOURCE_DIR) / "tests" / "bad";
+    int n = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(bad)) {
+        if (entry.path().extension() != ".scn") continue;
+        ++n;
+        std::ifstream in(entry.path());
+        std::stringstream text;
+        text << in.rdbuf();
+        std::smatch m;
+        std::string body = text.str();
+        ASSERT_TRUE(std::regex_search(body, m, std::regex("^# error: (\\d+): (.*)")))
+            << entry.path() << " has no '# error: LINE: FRAGMENT' first line";
+        Script s;
+        ParseError e;
+        ASSERT_FALSE(parse_script(entry.path().string(), body, host, s, e)) << entry.path();
+        EXPECT_EQ(e.line, std::stoi(m[1])) << entry.path();
+        EXPECT_NE(e.message.find(m[2].str()), std::string::npos) << entry.path() << ": " << e.message;
+        auto [status, out] = run({entry.path().string()});
+        EXPECT_EQ(status, 2) << entry.path();
+    }
+    EXPECT_GT(n, 0);
+}
+
+}  // namespace

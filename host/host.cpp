@@ -21,6 +21,7 @@ Module::Module(const std::string& path) {
     linkage_ = static_cast<ModuleLinkage*>(dlsym(handle_, "Linkage"));
     imports_ = static_cast<ModuleImports*>(dlsym(handle_, "ImportTable"));
     fields_ = static_cast<const FieldTable*>(dlsym(handle_, "KestraneFields"));
+    sounds_ = static_cast<const SoundTable*>(dlsym(handle_, "KestraneSounds"));
     if (linkage_ == nullptr || imports_ == nullptr) {
         error_ = "module " + path + " exports no Linkage or ImportTable";
         linkage_ = nullptr;
@@ -116,6 +117,8 @@ bool Host::reload() {
     if (module_ && module_->ok()) module_->imports()->entries[0].ptr = nullptr;
     module_.reset();
     reset_tables();
+    sound_.reset();
+    sounds_ = nullptr;
     error_.clear();
     module_ = std::make_unique<Module>(module_path_);
     if (!module_->ok()) {
@@ -123,6 +126,7 @@ bool Host::reload() {
         return false;
     }
     g_host = this;
+    sounds_ = module_->sounds();
     module_->imports()->entries[0].ptr = &services_;
     for (int i = 0; i < gauge_count(); ++i) gauge_by_name_.emplace(gauge(i)->name, i);
     if (const FieldTable* t = module_->fields()) {
@@ -163,6 +167,28 @@ void Host::install(GaugeHeader* g) {
     installed_.push_back(g);
     if (g->callback)
         g->callback(g, 2, reinterpret_cast<std::uintptr_t>(module_ ? module_->handle() : nullptr));
+    tag_sounds();
+}
+
+void Host::tag_sounds() {
+    if (sounds_ == nullptr) return;
+    auto* handles = static_cast<void* const*>(sounds_->handles);
+    for (u32 i = 0; i < sounds_->count; ++i)
+        if (SoundBuffer* b = sound_.buffer(handles[i]); b && b->name.empty()) b->name = sounds_->names[i];
+}
+
+SoundBuffer* Host::sound(std::string_view name) const {
+    if (sounds_ == nullptr) return nullptr;
+    auto* handles = static_cast<void* const*>(sounds_->handles);
+    for (u32 i = 0; i < sounds_->count; ++i)
+        if (name == sounds_->names[i]) return handles[i] ? sound_.buffer(handles[i]) : nullptr;
+    return nullptr;
+}
+
+bool Host::record_audio(const std::string& path) {
+    recorder_ = std::make_unique<Recorder>(path);
+    if (!recorder_->ok()) recorder_.reset();
+    return recorder_ != nullptr;
 }
 
 void Host::install_all() {
@@ -190,6 +216,12 @@ void Host::run(int cycles) {
             GaugeHeader* g = installed_[i];
             if (g->callback) g->callback(g, 6, 0);
             draw(g);
+        }
+        if (recorder_) {
+            sound_.advance(&recorder_->cycle_buffer());
+            recorder_->flush_cycle();
+        } else {
+            sound_.advance(nullptr);
         }
     }
 }

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "frame/gauge_abi.h"
+#include "host/sound_device.h"
 
 namespace kestrane::host {
 
@@ -37,12 +38,14 @@ public:
     ModuleLinkage* linkage() const { return linkage_; }
     ModuleImports* imports() const { return imports_; }
     const FieldTable* fields() const { return fields_; }
+    const SoundTable* sounds() const { return sounds_; }
 
 private:
     void* handle_ = nullptr;
     ModuleLinkage* linkage_ = nullptr;
     ModuleImports* imports_ = nullptr;
     const FieldTable* fields_ = nullptr;
+    const SoundTable* sounds_ = nullptr;
     std::string error_;
 };
 
@@ -107,6 +110,19 @@ public:
     // Key events sent since the last clear.
     const std::vector<KeyEvent>& events() const { return events_; }
     void clear_events() { events_.clear(); }
+    // Clears the logs of key events and sound operations (start of a step).
+    void begin_step() {
+        events_.clear();
+        sound_.clear_log();
+    }
+
+    // Sounds: the device the module plays on, and the module's own table.
+    SoundDevice& sound_device() { return sound_; }
+    const SoundTable* sound_table() const { return sounds_; }
+    // The buffer the module holds for sound `name` now (null when not loaded).
+    SoundBuffer* sound(std::string_view name) const;
+    // Mixes everything played from now on into a WAV file.
+    bool record_audio(const std::string& path);
 
     // State fields.
     const FieldInfo* field(std::string_view name) const;
@@ -151,6 +167,10 @@ private:
     std::map<std::string, f64, std::less<>> calc_;
     std::vector<u32> windows_;  // open panel windows
     std::vector<KeyEvent> events_;
+    SoundDevice& sound_ = SoundDevice::instance();
+    const SoundTable* sounds_ = nullptr;
+    std::unique_ptr<Recorder> recorder_;
+    void tag_sounds();
 };
 
 }  // namespace kestrane::host

@@ -14,7 +14,7 @@ using namespace kestrane;
 using namespace kestrane::host;
 
 int usage() {
-    std::cerr << "usage: kestrane-host [--module PATH] run FILE|DIR...\n"
+    std::cerr << "usage: kestrane-host [--module PATH] run [--record-audio FILE.wav] FILE|DIR...\n"
                  "       kestrane-host [--module PATH] gauges\n"
                  "       kestrane-host [--module PATH] fields\n";
     return 2;
@@ -71,7 +71,17 @@ int main(int argc, char** argv) {
     const std::string& cmd = args[0];
     if (cmd == "gauges" && args.size() == 1) return list_gauges(host);
     if (cmd == "fields" && args.size() == 1) return list_fields(host);
-    if (cmd == "run" && args.size() >= 2)
-        return run_paths(std::vector<std::string>(args.begin() + 1, args.end()), host, std::cout);
+    if (cmd == "run") {
+        std::size_t first = 1;
+        if (args.size() >= 3 && args[1] == "--record-audio") {
+            if (!host.record_audio(args[2])) {
+                std::cerr << "cannot write " << args[2] << '\n';
+                return 2;
+            }
+            first = 3;
+        }
+        if (args.size() > first)
+            return run_paths(std::vector<std::string>(args.begin() + first, args.end()), host, std::cout);
+    }
     return usage();
 }

@@ -440,6 +440,25 @@ bool is_step(CmdKind k) {
     }
 }
 
+// "66463 x3, 65568" for a failure message.
+std::string event_summary(const std::vector<KeyEvent>& events) {
+    std::vector<std::pair<u32, int>> counts;
+    for (const KeyEvent& e : events) {
+        auto it = std::find_if(counts.begin(), counts.end(), [&](const auto& p) { return p.first == e.event; });
+        if (it == counts.end())
+            counts.push_back({e.event, 1});
+        else
+            ++it->second;
+    }
+    std::string s;
+    for (std::size_t i = 0; i < counts.size() && i < 8; ++i) {
+        s += (i ? ", " : "") + fmt(counts[i].first);
+        if (counts[i].second > 1) s += " x" + fmt(counts[i].second);
+    }
+    if (counts.size() > 8) s += ", ...";
+    return s;
+}
+
 }  // namespace
 
 bool parse_script(const std::string& file, const std::string& text, const Host& host,
@@ -494,7 +513,7 @@ int Runner::count_event(u32 id, const double* value) const {
 }
 
 void Runner::execute(const Command& c) {
-    if (is_step(c.kind)) host_.clear_events();
+    if (is_step(c.kind)) host_.begin_step();
     GaugeHeader* g = c.gauges.empty() ? nullptr : host_.gauge(c.gauges[0]);
     // Messages are built only for failed checks, so that passing checks cost nothing.
     bool pass = true;
@@ -561,17 +580,10 @@ void Runner::execute(const Command& c) {
         }
         case CmdKind::ExpectNoEvents:
             pass = host_.events().empty();
-            if (!pass) {
-                std::string list;
-                for (const KeyEvent& e : host_.events())
-                    list += (list.empty() ? "" : ", ") + fmt(e.event);
-                fail(c, "no events", list);
-            }
+            if (!pass) fail(c, "no events", event_summary(host_.events()));
             break;
         case CmdKind::ExpectSound:
-            pass = false;
-            fail(c, "a sound check on \"" + c.name + "\"",
-                 "no sound device: this host has no sound player yet");
+            pass = check_sound(c);
             break;
         case CmdKind::ExpectShown:
         case CmdKind::ExpectHidden: {
@@ -595,6 +607,54 @@ void Runner::execute(const Command& c) {
         }
     }
     if (pass) ++totals_.passed;
+}
+
+bool Runner::check_sound(const Command& c) {
+    int once = 0, looping = 0, stops = 0;
+    for (const SoundEvent& e : host_.sound_device().log()) {
+        if (e.buffer->name != c.name) continue;
+        if (e.op == SoundOp::Play) ++((e.flags & DSBPLAY_LOOPING) ? looping : once);
+        if (e.op == SoundOp::Stop && e.flags) ++stops;  // stopping a silent buffer is not heard
+    }
+    const SoundBuffer* now = host_.sound(c.name);
+    auto what = [&](const std::string& rest) { return "sound \"" + c.name + "\" " + rest; };
+    switch (c.sound) {
+        case SoundCheck::Played:
+            if (once > 0) return true;
+            fail(c, what("played"), looping ? "only looping" : "not played");
+            return false;
+        case SoundCheck::PlayedCount:
+            if (once == c.n) return true;
+            fail(c, what("played count " + fmt(c.n)), fmt(once));
+            return false;
+        case SoundCheck::Looping:
+            if (looping > 0) return true;
+            fail(c, what("looping"), once ? "only played once" : "not started");
+            return false;
+        case SoundCheck::Stopped:
+            if (stops > 0) return true;
+            fail(c, what("stopped"), "not stopped");
+            return false;
+        case SoundCheck::Silent:
+            if (once + looping + stops == 0) return true;
+            fail(c, what("silent"),
+                 fmt(once) + " played, " + fmt(looping) + " looping, " + fmt(stops) + " stopped");
+            return false;
+        case SoundCheck::Playing:
+        case SoundCheck::Idle: {
+            bool playing = now != nullptr && now->playing;
+            bool want = c.sound == SoundCheck::Playing;
+            if (playing == want) return true;
+            fail(c, what(want ? "playing" : "idle"),
+                 now == nullptr ? "not loaded" : (playing ? "playing" : "idle"));
+            return false;
+        }
+        case SoundCheck::Volume:
+            if (now != nullptr && now->volume == c.value) return true;
+            fail(c, what("volume " + fmt(c.value)), now == nullptr ? "not loaded" : fmt(now->volume));
+            return false;
+    }
+    return false;
 }
 
 void run_script(const Script& script, Host& host, RunTotals& totals, std::ostream& out) {

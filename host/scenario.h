@@ -91,6 +91,7 @@ public:
 private:
     void fail(const Command& c, const std::string& expected, const std::string& got);
     int count_event(std::uint32_t id, const double* value) const;
+    bool check_sound(const Command& c);
 
     Host& host_;
     RunTotals& totals_;

@@ -69,6 +69,7 @@ TEST(Allocations, NoneInScenarioStepsAndPassingChecks) {
     ParseError error;
     ASSERT_TRUE(parse_script("steps.scn",
                              "gauges all\n"
+                             "token 874 = 1\n"
                              "run 20\n"
                              "click \"testgauge2k\" 1 1\n"
                              "hold \"testgauge2k\" 1 1 4\n"
@@ -79,7 +80,14 @@ TEST(Allocations, NoneInScenarioStepsAndPassingChecks) {
                              "expect event 65568 count 0\n"
                              "expect hidden \"testgauge2k\" 1\n"
                              "expect window 10090 closed\n"
-                             "expect named \"airport_extpwr_connected\" == 0\n",
+                             "expect named \"airport_extpwr_connected\" == 0\n"
+                             "click \"kestrane callsigns_jm47\" 115 60\n"
+                             "click \"kestrane callsigns_jm47\" 115 45\n"
+                             "expect sound \"HI\" played\n"
+                             "expect sound \"CLICK\" played count 1\n"
+                             "expect sound \"LO\" silent\n"
+                             "expect sound \"CLICK\" volume -2000\n"
+                             "expect sound \"HI\" playing\n",
                              host, script, error))
         << error.message;
     std::ostringstream out;
@@ -87,10 +95,11 @@ TEST(Allocations, NoneInScenarioStepsAndPassingChecks) {
     Runner runner(host, totals, out);
     ASSERT_TRUE(runner.begin("steps.scn"));
     runner.execute(script.commands[0]);
-    runner.execute(script.commands[1]);  // start-up
+    runner.execute(script.commands[1]);
+    runner.execute(script.commands[2]);  // start-up
     std::size_t before = g_allocations;
     for (int round = 0; round < 10; ++round)
-        for (std::size_t i = 1; i < script.commands.size(); ++i) runner.execute(script.commands[i]);
+        for (std::size_t i = 2; i < script.commands.size(); ++i) runner.execute(script.commands[i]);
     EXPECT_EQ(g_allocations - before, 0u);
     EXPECT_EQ(totals.failed, 0) << out.str();
 }

@@ -187,12 +187,24 @@ TEST_F(Scenario, BadLinesGiveTheirLineAndReason) {
     }
 }
 
-TEST_F(Scenario, SoundChecksFailClearlyUntilThereIsASoundDevice) {
-    auto f = write("snd.scn", "run 1\nexpect sound \"CLICK\" silent\n");
+TEST_F(Scenario, SoundChecksNameWhatHappened) {
+    auto f = write("snd.scn",
+                   "gauges \"kestrane toggle_pan_tadg\" \"kestrane callsigns_jm47\"\n"
+                   "click \"kestrane callsigns_jm47\" 115 60\n"
+                   "expect sound \"CLICK\" silent\n"
+                   "expect sound \"HI\" looping\n"
+                   "expect sound \"LO\" played\n"
+                   "expect sound \"CLICK\" played count 2\n"
+                   "expect sound \"CLICK\" volume -1000\n"
+                   "expect sound \"HI\" idle\n");
     auto [status, out] = run({f});
     EXPECT_EQ(status, 1);
-    EXPECT_NE(out.find(":2: expected a sound check on \"CLICK\", got no sound device"), std::string::npos)
-        << out;
+    EXPECT_NE(out.find(":3: expected sound \"CLICK\" silent, got 1 played, 0 looping, 0 stopped"), std::string::npos) << out;
+    EXPECT_NE(out.find(":4: expected sound \"HI\" looping, got only played once"), std::string::npos) << out;
+    EXPECT_NE(out.find(":5: expected sound \"LO\" played, got not played"), std::string::npos) << out;
+    EXPECT_NE(out.find(":6: expected sound \"CLICK\" played count 2, got 1"), std::string::npos) << out;
+    EXPECT_NE(out.find(":7: expected sound \"CLICK\" volume -1000, got -2000"), std::string::npos) << out;
+    EXPECT_NE(out.find(":8: expected sound \"HI\" idle, got playing"), std::string::npos) << out;
 }
 
 TEST_F(Scenario, HoldCallsOnceWithoutRepeatAndRunsEveryCycle) {

@@ -267,6 +267,15 @@ struct FieldTable {
     const FieldInfo* fields;
 };
 
+// The module's sounds: names in table order, the buffer handle of each (null
+// when not loaded) and the volume table.
+struct SoundTable {
+    u32 count;
+    const char* const* names;
+    const void* handles;  // array of `count` buffer pointers
+    const i16* volumes;
+};
+
 inline constexpr const char* field_type_name(FieldType t) {
     constexpr const char* names[] = {"u8", "i8", "u16", "i16", "u32", "i32", "f32", "f64"};
     return static_cast<u32>(t) < 8 ? names[t] : "?";
@@ -279,4 +288,5 @@ extern "C" {
 extern KEXPORT kestrane::ModuleLinkage Linkage;
 extern KEXPORT kestrane::ModuleImports ImportTable;
 extern KEXPORT const kestrane::FieldTable KestraneFields;
+extern KEXPORT const kestrane::SoundTable KestraneSounds;
 }

@@ -1,0 +1,151 @@
+// The sound device calls the player makes. On Windows they are DirectSound 8
+// itself; elsewhere the same calls, of the same shape, are provided by the
+// process that loads the module (the stand-in host), the way the operating
+// system provides DirectSound on Windows. A process that provides none
+// leaves DirectSoundCreate8 null and the module runs silent.
+#pragma once
+
+#if defined(_WIN32)
+
+#include <windows.h>
+#include <mmsystem.h>
+#include <dsound.h>
+
+#define KESTRANE_HAS_DIRECTSOUND_CREATE() true
+
+#else
+
+#include <cstdint>
+
+typedef std::int32_t HRESULT;
+typedef std::uint32_t DWORD;
+typedef std::uint16_t WORD;
+typedef std::int32_t LONG;
+typedef void* LPVOID;
+typedef DWORD* LPDWORD;
+typedef void* HWND;
+typedef void* LPUNKNOWN;
+
+struct GUID {
+    std::uint32_t d1;
+    std::uint16_t d2, d3;
+    std::uint8_t d4[8];
+};
+
+#pragma pack(push, 1)
+struct WAVEFORMATEX {
+    WORD wFormatTag;
+    WORD nChannels;
+    DWORD nSamplesPerSec;
+    DWORD nAvgBytesPerSec;
+    WORD nBlockAlign;
+    WORD wBitsPerSample;
+    WORD cbSize;
+};
+#pragma pack(pop)
+
+struct DSBUFFERDESC {
+    DWORD dwSize;
+    DWORD dwFlags;
+    DWORD dwBufferBytes;
+    DWORD dwReserved;
+    WAVEFORMATEX* lpwfxFormat;
+    GUID guid3DAlgorithm;
+};
+
+struct IDirectSoundBuffer;
+struct IDirectSound8;
+
+// Buffer calls, in DirectSound's order (only those the player uses are filled
+// by every provider; the others may be null).
+struct IDirectSoundBufferVtbl {
+    HRESULT (*QueryInterface)(IDirectSoundBuffer*, const GUID*, void**);
+    DWORD (*AddRef)(IDirectSoundBuffer*);
+    DWORD (*Release)(IDirectSoundBuffer*);
+    HRESULT (*GetCaps)(IDirectSoundBuffer*, void*);
+    HRESULT (*GetCurrentPosition)(IDirectSoundBuffer*, LPDWORD, LPDWORD);
+    HRESULT (*GetFormat)(IDirectSoundBuffer*, WAVEFORMATEX*, DWORD, LPDWORD);
+    HRESULT (*GetVolume)(IDirectSoundBuffer*, LONG*);
+    HRESULT (*GetPan)(IDirectSoundBuffer*, LONG*);
+    HRESULT (*GetFrequency)(IDirectSoundBuffer*, LPDWORD);
+    HRESULT (*GetStatus)(IDirectSoundBuffer*, LPDWORD);
+    HRESULT (*Initialize)(IDirectSoundBuffer*, IDirectSound8*, const DSBUFFERDESC*);
+    HRESULT (*Lock)(IDirectSoundBuffer*, DWORD, DWORD, LPVOID*, LPDWORD, LPVOID*, LPDWORD, DWORD);
+    HRESULT (*Play)(IDirectSoundBuffer*, DWORD, DWORD, DWORD);
+    HRESULT (*SetCurrentPosition)(IDirectSoundBuffer*, DWORD);
+    HRESULT (*SetFormat)(IDirectSoundBuffer*, const WAVEFORMATEX*);
+    HRESULT (*SetVolume)(IDirectSoundBuffer*, LONG);
+    HRESULT (*SetPan)(IDirectSoundBuffer*, LONG);
+    HRESULT (*SetFrequency)(IDirectSoundBuffer*, DWORD);
+    HRESULT (*Stop)(IDirectSoundBuffer*);
+    HRESULT (*Unlock)(IDirectSoundBuffer*, LPVOID, DWORD, LPVOID, DWORD);
+    HRESULT (*Restore)(IDirectSoundBuffer*);
+};
+
+struct IDirectSoundBuffer {
+    const IDirectSoundBufferVtbl* lpVtbl;
+};
+
+struct IDirectSound8Vtbl {
+    HRESULT (*QueryInterface)(IDirectSound8*, const GUID*, void**);
+    DWORD (*AddRef)(IDirectSound8*);
+    DWORD (*Release)(IDirectSound8*);
+    HRESULT (*CreateSoundBuffer)(IDirectSound8*, const DSBUFFERDESC*, IDirectSoundBuffer**,
+                                 LPUNKNOWN);
+    HRESULT (*GetCaps)(IDirectSound8*, void*);
+    HRESULT (*DuplicateSoundBuffer)(IDirectSound8*, IDirectSoundBuffer*, IDirectSoundBuffer**);
+    HRESULT (*SetCooperativeLevel)(IDirectSound8*, HWND, DWORD);
+    HRESULT (*Compact)(IDirectSound8*);
+    HRESULT (*GetSpeakerConfig)(IDirectSound8*, LPDWORD);
+    HRESULT (*SetSpeakerConfig)(IDirectSound8*, DWORD);
+    HRESULT (*Initialize)(IDirectSound8*, const GUID*);
+    HRESULT (*VerifyCertification)(IDirectSound8*, LPDWORD);
+};
+
+struct IDirectSound8 {
+    const IDirectSound8Vtbl* lpVtbl;
+};
+
+typedef IDirectSoundBuffer* LPDIRECTSOUNDBUFFER;
+typedef IDirectSound8* LPDIRECTSOUND8;
+
+#define DS_OK 0
+#define FAILED(hr) (static_cast<HRESULT>(hr) < 0)
+#define DSSCL_NORMAL 1
+#define DSBPLAY_LOOPING 0x1
+#define DSBSTATUS_PLAYING 0x1
+#define DSBSTATUS_LOOPING 0x4
+#define DSBCAPS_STATIC 0x2
+#define DSBCAPS_CTRLFREQUENCY 0x20
+#define DSBCAPS_CTRLPAN 0x40
+#define DSBCAPS_CTRLVOLUME 0x80
+#define DSBCAPS_GETCURRENTPOSITION2 0x10000
+#define DSBVOLUME_MIN (-10000)
+#define DSBVOLUME_MAX 0
+#define WAVE_FORMAT_PCM 1
+
+#define IDirectSound8_Release(p) (p)->lpVtbl->Release(p)
+#define IDirectSound8_CreateSoundBuffer(p, a, b, c) (p)->lpVtbl->CreateSoundBuffer(p, a, b, c)
+#define IDirectSound8_SetCooperativeLevel(p, a, b) (p)->lpVtbl->SetCooperativeLevel(p, a, b)
+#define IDirectSoundBuffer_Release(p) (p)->lpVtbl->Release(p)
+#define IDirectSoundBuffer_Lock(p, a, b, c, d, e, f, g) (p)->lpVtbl->Lock(p, a, b, c, d, e, f, g)
+#define IDirectSoundBuffer_Unlock(p, a, b, c, d) (p)->lpVtbl->Unlock(p, a, b, c, d)
+#define IDirectSoundBuffer_Play(p, a, b, c) (p)->lpVtbl->Play(p, a, b, c)
+#define IDirectSoundBuffer_Stop(p) (p)->lpVtbl->Stop(p)
+#define IDirectSoundBuffer_SetVolume(p, a) (p)->lpVtbl->SetVolume(p, a)
+#define IDirectSoundBuffer_GetStatus(p, a) (p)->lpVtbl->GetStatus(p, a)
+
+// Provided by the loading process; weak in the module so that a process
+// without sound still loads it.
+#if defined(KESTRANE_DSOUND_PROVIDER)
+extern "C" HRESULT DirectSoundCreate8(const GUID* device, IDirectSound8** out, LPUNKNOWN outer);
+#else
+extern "C" HRESULT DirectSoundCreate8(const GUID* device, IDirectSound8** out, LPUNKNOWN outer)
+    __attribute__((weak));
+#endif
+
+#define KESTRANE_HAS_DIRECTSOUND_CREATE() (&DirectSoundCreate8 != nullptr)
+
+inline HWND GetActiveWindow() { return nullptr; }
+
+#endif

@@ -1,0 +1,43 @@
+// What a gauge source file needs: the declaration form, the host services,
+// the shared state, images and sounds, and the common switch rule.
+#pragma once
+
+#include "frame/convert.h"
+#include "frame/elements.h"
+#include "frame/gauge_def.h"
+#include "frame/host.h"
+#include "frame/sound.h"
+#include "frame/state.h"
+
+namespace kestrane {
+
+// Moves a switch: a real change plays CLICK once; asking for the position it
+// already has does nothing. Returns whether it moved.
+inline bool set_switch(u8& field, u8 position) {
+    if (field == position) return false;
+    field = position;
+    sound::click();
+    return true;
+}
+
+// A token variable the gauge reads.
+constexpr ModuleVar token(u32 id) {
+    ModuleVar v{};
+    v.id = id;
+    return v;
+}
+
+// Host flags are compared with the exact doubles 1.0 and 0.0.
+inline bool is_on(f64 v) { return v == 1.0; }
+
+// Clamps a needle's field to the dial, stores it back and returns it.
+template <class T>
+f64 clamp_back(T& field, f64 lo, f64 hi) {
+    f64 v = static_cast<f64>(field);
+    if (!(v >= lo)) v = lo;
+    if (v > hi) v = hi;
+    field = static_cast<T>(v);
+    return v;
+}
+
+}  // namespace kestrane

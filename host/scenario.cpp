@@ -250,7 +250,10 @@ void parse_expect(Line& l, Command& c, const Host& host) {
             return;
         }
         c.value = l.number("the value");
-        if (c.op == CmpOp::Near) c.tolerance = l.number("the tolerance");
+        if (c.op == CmpOp::Near) {
+            c.tolerance = l.number("the tolerance");
+            if (l.ok() && c.tolerance < 0) l.fail("bad number '" + fmt(c.tolerance) + "' for the tolerance: it cannot be negative");
+        }
     };
     if (l.keyword("token")) {
         c.id = static_cast<u32>(l.whole("a token number", 0, kU32Max));

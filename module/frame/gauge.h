@@ -20,6 +20,43 @@ inline bool set_switch(u8& field, u8 position) {
     return true;
 }
 
+// Spring-loaded controls (repeat areas): the first call sets the counter to
+// 10, later calls while held add 2 (it stays between 10 and 12); the owning
+// callback lowers it by 1 each cycle. Pressed while above 0.
+inline void spring_press(u8& counter) {
+    if (counter == 0)
+        counter = 10;
+    else if (counter <= 10)
+        counter = static_cast<u8>(counter + 2);
+}
+inline void spring_release(u8& counter) {
+    if (counter > 0) --counter;
+}
+
+// Guarded switch, upper area: the first click opens the guard; then a switch
+// that is off goes on (CLICK), and the guard closes only over a switch that is
+// on (CACHEMETAL).
+inline void guard_upper(u8& guard, u8& sw) {
+    if (guard == 0) {
+        guard = 1;
+    } else if (sw == 1) {
+        guard = 0;
+        sound::cachemetal();
+    } else {
+        sw = 1;
+        sound::click();
+    }
+}
+// Guarded switch, lower area: opens the guard, or turns the switch off (CLICK).
+inline void guard_lower(u8& guard, u8& sw) {
+    if (guard == 0) {
+        guard = 1;
+    } else if (sw != 0) {
+        sw = 0;
+        sound::click();
+    }
+}
+
 // A token variable the gauge reads.
 constexpr ModuleVar token(u32 id) {
     ModuleVar v{};

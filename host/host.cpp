@@ -300,23 +300,19 @@ bool Host::hold(GaugeHeader* g, int x, int y, int cycles) {
 
 // ---------------------------------------------------------------- tokens
 
-void Host::set_token(u32 id, f64 value) {
+void Host::store_token(u32 id, const void* bytes, std::size_t n) {
     std::array<u8, 8> raw{};
-    std::memcpy(raw.data(), &value, 8);
+    std::memcpy(raw.data(), bytes, n);
     if (id < kDirectTokens)
         tokens_[id] = raw;
     else
         far_tokens_[id] = raw;
 }
 
-void Host::set_token_bcd(u32 id, u32 bcd) {
-    std::array<u8, 8> raw{};
-    std::memcpy(raw.data(), &bcd, 4);
-    if (id < kDirectTokens)
-        tokens_[id] = raw;
-    else
-        far_tokens_[id] = raw;
-}
+void Host::set_token(u32 id, f64 value) { store_token(id, &value, sizeof value); }
+
+// Radio frequencies: the whole number in the first four bytes, the rest 0.
+void Host::set_token_bcd(u32 id, u32 bcd) { store_token(id, &bcd, sizeof bcd); }
 
 void Host::read_token(u32 id, u8 out[8]) const {
     if (id < kDirectTokens) {

@@ -148,6 +148,7 @@ public:
 
 private:
     void reset_tables();
+    void store_token(u32 id, const void* bytes, std::size_t n);
     void draw_element(Element* e, int depth);
     void window_set(u32 ident, bool open);
 

@@ -111,6 +111,8 @@ void Host::reset_tables() {
     calc_.clear();
     windows_.clear();
     events_.clear();
+    time_base_ = 0.0;
+    time_cycles_ = 0;
 }
 
 bool Host::reload() {
@@ -211,7 +213,10 @@ bool Host::installed(const GaugeHeader* g) const {
 void Host::run(int cycles) {
     for (int c = 0; c < cycles; ++c) {
         set_token(1, token(1) + 1.0);
-        set_token(604, token(604) + 1.0 / 18.0);
+        // simulation time from where it was last set, without summing 1/18s
+        ++time_cycles_;
+        f64 now = time_base_ + static_cast<f64>(time_cycles_) / 18.0;
+        store_token(kTokenSimTime, &now, sizeof now);
         for (std::size_t i = 0; i < installed_.size(); ++i) {
             GaugeHeader* g = installed_[i];
             if (g->callback) g->callback(g, 6, 0);
@@ -309,10 +314,19 @@ void Host::store_token(u32 id, const void* bytes, std::size_t n) {
         far_tokens_[id] = raw;
 }
 
-void Host::set_token(u32 id, f64 value) { store_token(id, &value, sizeof value); }
+void Host::set_token(u32 id, f64 value) {
+    if (id == kTokenSimTime) {
+        time_base_ = value;
+        time_cycles_ = 0;
+    }
+    store_token(id, &value, sizeof value);
+}
 
 // Radio frequencies: the whole number in the first four bytes, the rest 0.
-void Host::set_token_bcd(u32 id, u32 bcd) { store_token(id, &bcd, sizeof bcd); }
+void Host::set_token_bcd(u32 id, u32 bcd) {
+    if (id == kTokenSimTime) set_token(id, 0.0);
+    store_token(id, &bcd, sizeof bcd);
+}
 
 void Host::read_token(u32 id, u8 out[8]) const {
     if (id < kDirectTokens) {

@@ -79,6 +79,8 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
     }
 
     if (thr_display_mode == 0) {
+        // switched back on during the OFF caption: the caption goes, and the
+        // next switching off shows it for its full time
         show(g, 7, false);
         thr_off_armed = 0;
         // A change seen just as the readout is switched on counts as the first.

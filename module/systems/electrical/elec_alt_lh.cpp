@@ -41,8 +41,10 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
     elec_b::show_guarded(g, 1, 3, 4, 5, ac.elec_alt_lh_guard, ac.elec_alt_lh_sw);
     show(g, 2, ac.elec_alt_lh_line_sw == 1);
     show(g, 6, ac.elec_alt_lh_line_sw != 1);
-    elec_b::fault_light(g, 7, alt_light_test, ac.elec_alt_lh_sw, false);
-    elec_b::fault_light(g, 8, line_light_test, ac.elec_alt_lh_line_sw, ac.elec_gen2_failed == 1);
+    elec_b::fault_clear(alt_light_test, ac.elec_alt_lh_sw);
+    elec_b::fault_clear(line_light_test, ac.elec_alt_lh_line_sw);
+    elec_b::fault_light(g, 7, alt_light_test, false);
+    elec_b::fault_light(g, 8, line_light_test, ac.elec_gen2_failed == 1);
 }
 }  // namespace
 

@@ -33,19 +33,21 @@ inline void show_guarded(GaugeHeader* g, int covered, int guard_open, int on, in
     show(g, off, !sw_on);
 }
 
-// Fault light with its test latch. With its switch off the latch is dropped
-// and the warning panel's fault flag cleared every cycle; otherwise a lit
-// light (essential bus, and test or failure) raises the flag.
-inline void fault_light(GaugeHeader* g, int n, u8& latch, u8 sw, bool failed) {
-    const bool sw_off = sw == 0;
-    if (sw_off)
-        latch = 0;
+// Fault lights with test latches. A switch that is off drops the latch of
+// its light and clears the warning panel's fault flag, every cycle; a lit
+// light (essential bus, and test or failure) raises the flag. A panel clears
+// for all its switches before lighting, so a light still lit keeps the flag.
+inline void fault_clear(u8& latch, u8 sw) {
+    if (sw != 0)
+        return;
+    latch = 0;
+    ac.elec_fault_light = 0;
+}
+inline void fault_light(GaugeHeader* g, int n, u8 latch, bool failed) {
     const bool lit = ac.elec_ess_bus == 1 && (latch != 0 || failed);
     show(g, n, lit);
     if (lit)
         ac.elec_fault_light = 1;
-    if (sw_off)
-        ac.elec_fault_light = 0;
 }
 
 }  // namespace kestrane::elec_b

@@ -1,12 +1,67 @@
-// kestrane elec_alt_rh_jm47: background only so far.
-#include "frame/gauge_def.h"
+// kestrane elec_alt_rh_jm47: alternator RH panel, the mirror of the LH panel
+// (line switch on the left, alternator switch on the right).
+#include "elec_b_panel.h"
 
 namespace {
 using namespace kestrane;
 
-void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+ModuleVar n2_eng2 = token(644);
+ModuleVar host_elec_failure = token(279);
+
+u8 alt_light_test = 0;   // light 1, on the alternator switch
+u8 line_light_test = 0;  // light 2, on the line switch
+
+u32 KCALL alt_upper(PixPoint*, u32) {
+    guard_upper(ac.elec_alt_rh_guard, ac.elec_alt_rh_sw);
+    return 0;
+}
+u32 KCALL alt_lower(PixPoint*, u32) {
+    guard_lower(ac.elec_alt_rh_guard, ac.elec_alt_rh_sw);
+    return 0;
+}
+u32 KCALL line_close(PixPoint*, u32) {
+    return set_switch(ac.elec_alt_rh_line_sw, 1), 0;
+}
+u32 KCALL line_open(PixPoint*, u32) {
+    return set_switch(ac.elec_alt_rh_line_sw, 0), 0;
+}
+u32 KCALL alt_light_press(PixPoint*, u32) {
+    return alt_light_test = 1, 0;
+}
+u32 KCALL line_light_press(PixPoint*, u32) {
+    return line_light_test = 1, 0;
+}
+
+void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
+    if (service != kServiceUpdate)
+        return;
+    ac.elec_alt_rh_online = elec_b::alternator_online(host::read(n2_eng2), host::read(host_elec_failure),
+                                                      ac.fuel_hp_cock_rh, ac.elec_alt_rh_sw);
+
+    elec_b::show_guarded(g, 1, 3, 4, 5, ac.elec_alt_rh_guard, ac.elec_alt_rh_sw);
+    show(g, 2, ac.elec_alt_rh_line_sw == 1);
+    show(g, 6, ac.elec_alt_rh_line_sw != 1);
+    elec_b::fault_clear(alt_light_test, ac.elec_alt_rh_sw);
+    elec_b::fault_clear(line_light_test, ac.elec_alt_rh_line_sw);
+    elec_b::fault_light(g, 7, alt_light_test, false);
+    elec_b::fault_light(g, 8, line_light_test, ac.elec_gen2_failed == 1);
+}
 }  // namespace
 
 KESTRANE_GAUGE(elec_alt_rh,
-    gauge("kestrane elec_alt_rh_jm47", 132, update)
-        .elements(image(26496, 0x4001)))  // e0
+               gauge("kestrane elec_alt_rh_jm47", 132, update)
+                   .elements(image(26496, 0x4001),               // e0
+                             icon(29968, 97, 21, 0x40000003),    // e1 alternator on, guard closed
+                             icon(29984, 37, 21, 0x40000003),    // e2 line switch closed
+                             icon(30000, 97, 21, 0x40000003),    // e3 alternator guard open
+                             icon(30016, 97, 62, 0x40000003),    // e4 alternator on
+                             icon(30032, 97, 62, 0x40000003),    // e5 alternator off
+                             icon(30048, 37, 62, 0x40000003),    // e6 line switch open
+                             icon(30064, 100, 170, 0x40000003),  // e7 light 1 (alternator), right
+                             icon(30080, 39, 170, 0x40000003))   // e8 light 2 (line), left
+                   .mouse(click(97, 21, 35, 41, kCursorHand, alt_upper),
+                          click(97, 62, 35, 41, kCursorDown, alt_lower),
+                          click(37, 21, 35, 41, kCursorHand, line_close),
+                          click(37, 62, 35, 41, kCursorDown, line_open),
+                          click(100, 170, 30, 30, kCursorHand, alt_light_press),
+                          click(39, 170, 30, 30, kCursorHand, line_light_press)))

@@ -1,4 +1,4 @@
-// kestrane fuel_lowlvl_lh_jm47: Left main tank low-level light and its test
+// kestrane fuel_lowlvl_lh_jm47: left main tank low-level light and its test
 // push-button.
 #include "frame/gauge.h"
 #include "systems/engines/fuel_rules.h"

@@ -1,4 +1,4 @@
-// kestrane fuel_lowlvl_rh_jm47: Right main tank low-level light and its test
+// kestrane fuel_lowlvl_rh_jm47: right main tank low-level light and its test
 // push-button.
 #include "frame/gauge.h"
 #include "systems/engines/fuel_rules.h"

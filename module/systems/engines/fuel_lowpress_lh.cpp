@@ -1,4 +1,4 @@
-// kestrane fuel_lowpress_lh_jm47: Left fuel low-pressure light and its test
+// kestrane fuel_lowpress_lh_jm47: left fuel low-pressure light and its test
 // push-button.
 #include "frame/gauge.h"
 #include "systems/engines/fuel_rules.h"

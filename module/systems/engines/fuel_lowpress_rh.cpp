@@ -1,4 +1,4 @@
-// kestrane fuel_lowpress_rh_jm47: Right fuel low-pressure light and its test
+// kestrane fuel_lowpress_rh_jm47: right fuel low-pressure light and its test
 // push-button.
 #include "frame/gauge.h"
 #include "systems/engines/fuel_rules.h"

@@ -104,16 +104,16 @@ inline u8 selector_copy(f64 host_value) {
     return 6;
 }
 
-// Own-side feed: tank valve shut, nothing; booster pump A or B, `boosted`;
-// C or D alone, `suction`; no pump, `suction` while the engine can still draw
-// fuel on its own.
-inline u8 own_side_feed(bool valve_open, const PumpSide& s, bool suction_possible, u8 boosted, u8 suction) {
+// Own-side feed: nothing with the tank valve shut; `boosted` (2 or 3) with
+// pump A or B running; `drawn` (4 or 5) with C or D alone, or with no pump
+// while the engine can still draw its fuel by suction.
+inline u8 own_side_feed(bool valve_open, const PumpSide& s, bool suction_possible, u8 boosted, u8 drawn) {
     if (!valve_open)
         return 0;
     if (!any_pump(s))
-        return suction_possible ? suction : 0;
+        return suction_possible ? drawn : 0;
     if (!main_pump(s))
-        return suction;
+        return drawn;
     return boosted;
 }
 

@@ -1,4 +1,4 @@
-// kestrane fuel_valves_lh_jm47: Left tank valve, two ganged switches and two
+// kestrane fuel_valves_lh_jm47: left tank valve, two ganged switches and two
 // flow indicators. Keeps the host's valve in line; the host valve stays open
 // while the crossfeed or the other tank can still draw through it.
 #include "frame/gauge.h"

@@ -75,7 +75,6 @@ TEST(Allocations, NoneInScenarioStepsAndPassingChecks) {
                              "hold \"testgauge2k\" 1 1 4\n"
                              "expect token 1 >= 20\n"
                              "expect elec_master_sw == 2\n"
-                             "expect no events\n"
                              "expect no event 65568\n"
                              "expect event 65568 count 0\n"
                              "expect hidden \"testgauge2k\" 1\n"

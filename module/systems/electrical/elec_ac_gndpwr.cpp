@@ -7,13 +7,16 @@ using namespace kestrane;
 using elec_a::art;
 
 u32 KCALL to_on(PixPoint*, u32) {
-    return set_switch(ac.elec_ac_gndpwr_sw, 1), 0;
+    set_switch(ac.elec_ac_gndpwr_sw, 1);
+    return 0;
 }
 u32 KCALL to_centre(PixPoint*, u32) {
-    return set_switch(ac.elec_ac_gndpwr_sw, 0), 0;
+    set_switch(ac.elec_ac_gndpwr_sw, 0);
+    return 0;
 }
 u32 KCALL to_off(PixPoint*, u32) {
-    return set_switch(ac.elec_ac_gndpwr_sw, 2), 0;
+    set_switch(ac.elec_ac_gndpwr_sw, 2);
+    return 0;
 }
 
 void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {

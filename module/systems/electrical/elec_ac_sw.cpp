@@ -7,16 +7,20 @@ using namespace kestrane;
 using elec_a::art;
 
 u32 KCALL sel_down(PixPoint*, u32) {
-    return elec_a::knob_down(ac.elec_ac_volt_sel), 0;
+    elec_a::knob_down(ac.elec_ac_volt_sel);
+    return 0;
 }
 u32 KCALL sel_up(PixPoint*, u32) {
-    return elec_a::knob_up(ac.elec_ac_volt_sel), 0;
+    elec_a::knob_up(ac.elec_ac_volt_sel);
+    return 0;
 }
 u32 KCALL panel_1(PixPoint*, u32) {
-    return set_switch(ac.elec_ac_panel_sw, 1), 0;
+    set_switch(ac.elec_ac_panel_sw, 1);
+    return 0;
 }
 u32 KCALL panel_2(PixPoint*, u32) {
-    return set_switch(ac.elec_ac_panel_sw, 2), 0;
+    set_switch(ac.elec_ac_panel_sw, 2);
+    return 0;
 }
 
 f64 KCALL knob(Element*) {

@@ -26,10 +26,12 @@ u32 KCALL hold_right(PixPoint*, u32) {
     return 0;
 }
 u32 KCALL test_1(PixPoint*, u32) {
-    return test_latch_1 = 1, 0;
+    test_latch_1 = 1;
+    return 0;
 }
 u32 KCALL test_2(PixPoint*, u32) {
-    return test_latch_2 = 1, 0;
+    test_latch_2 = 1;
+    return 0;
 }
 
 void reset(u8& latch, u8& memory) {

@@ -10,22 +10,28 @@ using elec_a::art;
 u8 test_latch_1, test_latch_2;
 
 u32 KCALL gen1_upper(PixPoint*, u32) {
-    return guard_upper(ac.elec_gen1_guard, ac.elec_gen1_sw), 0;
+    guard_upper(ac.elec_gen1_guard, ac.elec_gen1_sw);
+    return 0;
 }
 u32 KCALL gen1_lower(PixPoint*, u32) {
-    return guard_lower(ac.elec_gen1_guard, ac.elec_gen1_sw), 0;
+    guard_lower(ac.elec_gen1_guard, ac.elec_gen1_sw);
+    return 0;
 }
 u32 KCALL gen2_upper(PixPoint*, u32) {
-    return guard_upper(ac.elec_gen2_guard, ac.elec_gen2_sw), 0;
+    guard_upper(ac.elec_gen2_guard, ac.elec_gen2_sw);
+    return 0;
 }
 u32 KCALL gen2_lower(PixPoint*, u32) {
-    return guard_lower(ac.elec_gen2_guard, ac.elec_gen2_sw), 0;
+    guard_lower(ac.elec_gen2_guard, ac.elec_gen2_sw);
+    return 0;
 }
 u32 KCALL test_1(PixPoint*, u32) {
-    return test_latch_1 = 1, 0;
+    test_latch_1 = 1;
+    return 0;
 }
 u32 KCALL test_2(PixPoint*, u32) {
-    return test_latch_2 = 1, 0;
+    test_latch_2 = 1;
+    return 0;
 }
 
 // A generator switched off: failure acknowledged, test latch and the

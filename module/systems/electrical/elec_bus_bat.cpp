@@ -219,10 +219,12 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
 }
 
 u32 KCALL feed_main(PixPoint*, u32) {
-    return set_switch(ac.elec_ess_feed_sw, 1), 0;
+    set_switch(ac.elec_ess_feed_sw, 1);
+    return 0;
 }
 u32 KCALL feed_sec(PixPoint*, u32) {
-    return set_switch(ac.elec_ess_feed_sw, 2), 0;
+    set_switch(ac.elec_ess_feed_sw, 2);
+    return 0;
 }
 }  // namespace
 

@@ -7,13 +7,16 @@ using namespace kestrane;
 using elec_a::art;
 
 u32 KCALL sel_down(PixPoint*, u32) {
-    return elec_a::knob_down(ac.elec_dc_volt_sel), 0;
+    elec_a::knob_down(ac.elec_dc_volt_sel);
+    return 0;
 }
 u32 KCALL sel_up(PixPoint*, u32) {
-    return elec_a::knob_up(ac.elec_dc_volt_sel), 0;
+    elec_a::knob_up(ac.elec_dc_volt_sel);
+    return 0;
 }
 u32 KCALL test(PixPoint*, u32) {
-    return spring_press(ac.elec_dc_volt_test), 0;
+    spring_press(ac.elec_dc_volt_test);
+    return 0;
 }
 
 f64 KCALL knob(Element*) {

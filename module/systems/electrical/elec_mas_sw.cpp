@@ -16,16 +16,20 @@ constexpr const char* kExtPower = "airport_extpwr_connected";
 u8 lamp_test;  // spring counter of the lamp test button
 
 u32 KCALL to_ground(PixPoint*, u32) {
-    return set_switch(ac.elec_master_sw, 1), 0;
+    set_switch(ac.elec_master_sw, 1);
+    return 0;
 }
 u32 KCALL to_off(PixPoint*, u32) {
-    return set_switch(ac.elec_master_sw, 0), 0;
+    set_switch(ac.elec_master_sw, 0);
+    return 0;
 }
 u32 KCALL to_battery(PixPoint*, u32) {
-    return set_switch(ac.elec_master_sw, 2), 0;
+    set_switch(ac.elec_master_sw, 2);
+    return 0;
 }
 u32 KCALL test_lamp(PixPoint*, u32) {
-    return spring_press(lamp_test), 0;
+    spring_press(lamp_test);
+    return 0;
 }
 
 void ground_power() {

@@ -9,6 +9,7 @@ using namespace kestrane::eng_instr;
 
 Epr epr{};
 
+// unlike engine 1's, this knob answers 1 to the host
 u32 KCALL ref_down(PixPoint*, u32) {
     return epr_ref_down(ac.eng2_epr_ref), 1;
 }

@@ -1,4 +1,6 @@
 // kestrane Reset_fu_1: reset push-button of the engine 1 fuel-used counter.
+// The counter gauge runs earlier in the cycle and sees the request before
+// this button takes it back.
 #include "frame/gauge.h"
 #include "systems/engines/eng_instr_rules.h"
 

@@ -1,12 +1,32 @@
-// kestrane eng_n1_left_jm47: background only so far.
-#include "frame/gauge_def.h"
+// kestrane eng_n1_left_jm47: engine 1 N1, main needle and units needle,
+// driven by the engine value another module of the aircraft publishes.
+#include "frame/gauge.h"
+#include "systems/engines/eng_instr_rules.h"
 
 namespace {
 using namespace kestrane;
+using namespace kestrane::eng_instr;
 
-void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
+Spool spool{};
+
+f64 KCALL main_needle(Element*) {
+    return clamp_back(ac.eng1_n1_disp, 0.0, 110.0);
+}
+f64 KCALL units_needle(Element*) {
+    return spool.units;
+}
+
+void KCALL update(GaugeHeader*, u32 service, std::uintptr_t) {
+    if (service != kServiceUpdate)
+        return;
+    spool_cycle(spool, ac.eng1_n1_disp, "Turbine_N1_1");
+}
 }  // namespace
 
 KESTRANE_GAUGE(eng_n1_left,
-    gauge("kestrane eng_n1_left_jm47", 110, update).help(0xAB21)
-        .elements(image(20768, 0x4001)))  // e0
+               gauge("kestrane eng_n1_left_jm47", 110, update)
+                   .help(0xAB21)
+                   .elements(image(20768, 0x4001),                                                  // e0 dial
+                             needle(20736, 54, 54, 4, 44, kNeedleFlags, main_needle, spool_scale),  // e1 main
+                             needle(20784, 35, 31, 2, 9, kNeedleFlags, units_needle,
+                                    spool_units_scale)))  // e2 units

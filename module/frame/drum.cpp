@@ -1,0 +1,33 @@
+#include "frame/drum.h"
+
+namespace kestrane {
+
+f64 drum_roll(f64 pos, f64 target, i32 positions) {
+    const f64 n = static_cast<f64>(positions);
+    const f64 near_top = n - 1.1;  // 8.9 on a ten-digit drum: at the top digit
+    const f64 wrap = n - 0.1;      // 9.9: the top digit half rolled over to 0
+    const bool settled =
+        target == 0.0 ? pos < kDrumSnap : pos > target - kDrumSnap && pos < target + kDrumSnap;
+    if (settled)
+        return target;
+    if (pos < target - kDrumSnap) {
+        // from 0 to the top digit: back over the top instead of through every digit
+        if (pos < kDrumSnap && target > near_top)
+            return wrap;
+        return pos + kDrumStep;
+    }
+    if (pos > target + kDrumSnap) {
+        // from the top digit to 0: on over the top, then the strip starts again at 0
+        if (pos > near_top && target < kDrumSnap)
+            return pos >= wrap ? 0.0 : pos + kDrumStep;
+        return pos - kDrumStep;
+    }
+    return pos;
+}
+
+f64 drum_step(Drum& d) {
+    d.pos = drum_roll(d.pos, d.target, d.positions);
+    return d.pos;
+}
+
+}  // namespace kestrane

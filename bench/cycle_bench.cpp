@@ -16,7 +16,8 @@ void BM_FullCycle(benchmark::State& state) {
     }
     host.install_all();
     host.run(20);
-    for (auto _ : state) host.run(1);
+    for (auto _ : state)
+        host.run(1);
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_FullCycle);
@@ -28,7 +29,8 @@ void BM_ClickDiagnostic(benchmark::State& state) {
         return;
     }
     auto* g = host.gauge("testgauge2k");
-    for (auto _ : state) benchmark::DoNotOptimize(host.click(g, 3, 3));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(host.click(g, 3, 3));
 }
 BENCHMARK(BM_ClickDiagnostic);
 

@@ -14,11 +14,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (kestrane::parse_wave(bytes.data(), bytes.size(), w)) {
         const std::uint8_t* begin = bytes.data();
         const std::uint8_t* end = begin + bytes.size();
-        if (w.format < begin || w.format + w.format_size > end || w.format_size < 14) std::abort();
-        if (w.data < begin || w.data + w.data_size > end) std::abort();
+        if (w.format < begin || w.format + w.format_size > end || w.format_size < 14)
+            std::abort();
+        if (w.data < begin || w.data + w.data_size > end)
+            std::abort();
         volatile std::uint8_t sink = 0;
-        for (std::uint32_t i = 0; i < w.data_size; ++i) sink = sink ^ w.data[i];
-        for (std::uint32_t i = 0; i < w.format_size; ++i) sink = sink ^ w.format[i];
+        for (std::uint32_t i = 0; i < w.data_size; ++i)
+            sink = sink ^ w.data[i];
+        for (std::uint32_t i = 0; i < w.format_size; ++i)
+            sink = sink ^ w.format[i];
     } else if (w.format || w.data || w.data_size || w.format_size) {
         std::abort();
     }

@@ -29,7 +29,8 @@ Module::Module(const std::string& path) {
 }
 
 Module::~Module() {
-    if (handle_ != nullptr) dlclose(handle_);
+    if (handle_ != nullptr)
+        dlclose(handle_);
 }
 
 std::string default_module_path() {
@@ -48,20 +49,31 @@ namespace {
 Host* g_host = nullptr;  // the host the module's service calls reach
 
 void KCALL s_lookup_var(ModuleVar* v) {
-    if (g_host && v) g_host->svc_lookup_var(v);
+    if (g_host && v)
+        g_host->svc_lookup_var(v);
 }
 void KCALL s_trigger_key_event(u32 e, u32 v) {
-    if (g_host) g_host->svc_trigger_key_event(e, v);
+    if (g_host)
+        g_host->svc_trigger_key_event(e, v);
 }
-u32 KCALL s_panel_window_toggle(u32 id) { return g_host ? g_host->svc_panel_window_toggle(id) : 0; }
-u32 KCALL s_register_named(const char* n) { return g_host && n ? g_host->svc_register_named(n) : 0; }
-f64 KCALL s_get_named(u32 id) { return g_host ? g_host->svc_get_named(id) : 0.0; }
+u32 KCALL s_panel_window_toggle(u32 id) {
+    return g_host ? g_host->svc_panel_window_toggle(id) : 0;
+}
+u32 KCALL s_register_named(const char* n) {
+    return g_host && n ? g_host->svc_register_named(n) : 0;
+}
+f64 KCALL s_get_named(u32 id) {
+    return g_host ? g_host->svc_get_named(id) : 0.0;
+}
 void KCALL s_set_named(u32 id, f64 v) {
-    if (g_host) g_host->svc_set_named(id, v);
+    if (g_host)
+        g_host->svc_set_named(id, v);
 }
 u32 KCALL s_calc(const char* code, f64* result, i32* iresult, const char** sresult) {
-    if (iresult) *iresult = 0;
-    if (sresult) *sresult = nullptr;
+    if (iresult)
+        *iresult = 0;
+    if (sresult)
+        *sresult = nullptr;
     return g_host ? g_host->svc_calc(code, result) : 0;
 }
 void KCALL s_el_1(Element*) {}
@@ -96,9 +108,11 @@ Host::Host(std::string module_path) : module_path_(std::move(module_path)) {
 }
 
 Host::~Host() {
-    if (module_ && module_->ok()) module_->imports()->entries[0].ptr = nullptr;
+    if (module_ && module_->ok())
+        module_->imports()->entries[0].ptr = nullptr;
     module_.reset();
-    if (g_host == this) g_host = nullptr;
+    if (g_host == this)
+        g_host = nullptr;
 }
 
 void Host::reset_tables() {
@@ -116,7 +130,8 @@ void Host::reset_tables() {
 }
 
 bool Host::reload() {
-    if (module_ && module_->ok()) module_->imports()->entries[0].ptr = nullptr;
+    if (module_ && module_->ok())
+        module_->imports()->entries[0].ptr = nullptr;
     module_.reset();
     reset_tables();
     sound_.reset();
@@ -130,9 +145,11 @@ bool Host::reload() {
     g_host = this;
     sounds_ = module_->sounds();
     module_->imports()->entries[0].ptr = &services_;
-    for (int i = 0; i < gauge_count(); ++i) gauge_by_name_.emplace(gauge(i)->name, i);
+    for (int i = 0; i < gauge_count(); ++i)
+        gauge_by_name_.emplace(gauge(i)->name, i);
     if (const FieldTable* t = module_->fields()) {
-        for (u32 i = 0; i < t->count; ++i) field_by_name_.emplace(t->fields[i].name, &t->fields[i]);
+        for (u32 i = 0; i < t->count; ++i)
+            field_by_name_.emplace(t->fields[i].name, &t->fields[i]);
         // A library that was not really unloaded would still hold the last
         // script's values: put every field back to its value at load.
         for (u32 i = 0; i < t->count; ++i) {
@@ -146,14 +163,17 @@ bool Host::reload() {
 // ---------------------------------------------------------------- registry
 
 int Host::gauge_count() const {
-    if (!ok()) return 0;
+    if (!ok())
+        return 0;
     int n = 0;
-    while (n < 219 + 1 && module_->linkage()->gauges[n] != nullptr) ++n;
+    while (n < 219 + 1 && module_->linkage()->gauges[n] != nullptr)
+        ++n;
     return n;
 }
 
 GaugeHeader* Host::gauge(int index) const {
-    if (index < 0 || index >= gauge_count()) return nullptr;
+    if (index < 0 || index >= gauge_count())
+        return nullptr;
     return module_->linkage()->gauges[index];
 }
 
@@ -162,10 +182,13 @@ int Host::gauge_index(std::string_view name) const {
     return it == gauge_by_name_.end() ? -1 : it->second;
 }
 
-GaugeHeader* Host::gauge(std::string_view name) const { return gauge(gauge_index(name)); }
+GaugeHeader* Host::gauge(std::string_view name) const {
+    return gauge(gauge_index(name));
+}
 
 void Host::install(GaugeHeader* g) {
-    if (g == nullptr || installed(g)) return;
+    if (g == nullptr || installed(g))
+        return;
     installed_.push_back(g);
     if (g->callback)
         g->callback(g, 2, reinterpret_cast<std::uintptr_t>(module_ ? module_->handle() : nullptr));
@@ -173,34 +196,42 @@ void Host::install(GaugeHeader* g) {
 }
 
 void Host::tag_sounds() {
-    if (sounds_ == nullptr) return;
+    if (sounds_ == nullptr)
+        return;
     auto* handles = static_cast<void* const*>(sounds_->handles);
     for (u32 i = 0; i < sounds_->count; ++i)
-        if (SoundBuffer* b = sound_.buffer(handles[i]); b && b->name.empty()) b->name = sounds_->names[i];
+        if (SoundBuffer* b = sound_.buffer(handles[i]); b && b->name.empty())
+            b->name = sounds_->names[i];
 }
 
 SoundBuffer* Host::sound(std::string_view name) const {
-    if (sounds_ == nullptr) return nullptr;
+    if (sounds_ == nullptr)
+        return nullptr;
     auto* handles = static_cast<void* const*>(sounds_->handles);
     for (u32 i = 0; i < sounds_->count; ++i)
-        if (name == sounds_->names[i]) return handles[i] ? sound_.buffer(handles[i]) : nullptr;
+        if (name == sounds_->names[i])
+            return handles[i] ? sound_.buffer(handles[i]) : nullptr;
     return nullptr;
 }
 
 bool Host::record_audio(const std::string& path) {
     recorder_ = std::make_unique<Recorder>(path);
-    if (!recorder_->ok()) recorder_.reset();
+    if (!recorder_->ok())
+        recorder_.reset();
     return recorder_ != nullptr;
 }
 
 void Host::install_all() {
-    for (int i = 0; i < gauge_count(); ++i) install(gauge(i));
+    for (int i = 0; i < gauge_count(); ++i)
+        install(gauge(i));
 }
 
 void Host::remove(GaugeHeader* g) {
     auto it = std::find(installed_.begin(), installed_.end(), g);
-    if (it == installed_.end()) return;
-    if (g->callback) g->callback(g, 12, 0);
+    if (it == installed_.end())
+        return;
+    if (g->callback)
+        g->callback(g, 12, 0);
     installed_.erase(it);
 }
 
@@ -219,7 +250,8 @@ void Host::run(int cycles) {
         store_token(kTokenSimTime, &now, sizeof now);
         for (std::size_t i = 0; i < installed_.size(); ++i) {
             GaugeHeader* g = installed_[i];
-            if (g->callback) g->callback(g, 6, 0);
+            if (g->callback)
+                g->callback(g, 6, 0);
             draw(g);
         }
         if (recorder_) {
@@ -232,11 +264,13 @@ void Host::run(int cycles) {
 }
 
 void Host::draw(GaugeHeader* g) {
-    if (g && g->elements) draw_element(g->elements[0], 0);
+    if (g && g->elements)
+        draw_element(g->elements[0], 0);
 }
 
 void Host::draw_element(Element* e, int depth) {
-    if (e == nullptr || depth > 256) return;
+    if (e == nullptr || depth > 256)
+        return;
     if ((e->flags & kHidden) == 0) {
         switch (e->kind) {
             case kNeedle:
@@ -246,44 +280,58 @@ void Host::draw_element(Element* e, int depth) {
                     svc_lookup_var(&e->u.needle.source);
                 break;
             case kString:
-                if (e->u.str.callback) e->u.str.callback(e);
+                if (e->u.str.callback)
+                    e->u.str.callback(e);
                 break;
             case kSlider:
-                if (e->u.slider.callback_x) e->u.slider.callback_x(e);
-                if (e->u.slider.callback_y) e->u.slider.callback_y(e);
+                if (e->u.slider.callback_x)
+                    e->u.slider.callback_x(e);
+                if (e->u.slider.callback_y)
+                    e->u.slider.callback_y(e);
                 break;
             case kMovingImage:
-                if (e->u.moving.callback_x) e->u.moving.callback_x(e);
-                if (e->u.moving.callback_y) e->u.moving.callback_y(e);
+                if (e->u.moving.callback_x)
+                    e->u.moving.callback_x(e);
+                if (e->u.moving.callback_y)
+                    e->u.moving.callback_y(e);
                 break;
             case kSprite:
-                if (e->u.sprite.callback_x) e->u.sprite.callback_x(e);
-                if (e->u.sprite.callback_y) e->u.sprite.callback_y(e);
-                if (e->u.sprite.callback_rot) e->u.sprite.callback_rot(e);
+                if (e->u.sprite.callback_x)
+                    e->u.sprite.callback_x(e);
+                if (e->u.sprite.callback_y)
+                    e->u.sprite.callback_y(e);
+                if (e->u.sprite.callback_rot)
+                    e->u.sprite.callback_rot(e);
                 break;
             default:
                 break;
         }
     }
     if (e->children)
-        for (Element** c = e->children; *c != nullptr; ++c) draw_element(*c, depth + 1);
+        for (Element** c = e->children; *c != nullptr; ++c)
+            draw_element(*c, depth + 1);
 }
 
 // ---------------------------------------------------------------- mouse
 
 MouseRect* Host::hit(GaugeHeader* g, int x, int y, u32 event_flags) {
-    if (g == nullptr || g->mouse == nullptr) return nullptr;
+    if (g == nullptr || g->mouse == nullptr)
+        return nullptr;
     for (MouseRect* r = g->mouse; r->row != kRowEnd; ++r) {
-        if (r->row != kRowChild) continue;
-        if ((r->flags & event_flags) == 0 || r->u.handler == nullptr) continue;
-        if (x >= r->x && x < r->x + r->w && y >= r->y && y < r->y + r->h) return r;
+        if (r->row != kRowChild)
+            continue;
+        if ((r->flags & event_flags) == 0 || r->u.handler == nullptr)
+            continue;
+        if (x >= r->x && x < r->x + r->w && y >= r->y && y < r->y + r->h)
+            return r;
     }
     return nullptr;
 }
 
 bool Host::click(GaugeHeader* g, int x, int y, u32 flags) {
     MouseRect* r = hit(g, x, y, flags);
-    if (r == nullptr) return false;
+    if (r == nullptr)
+        return false;
     PixPoint p{x, y};
     r->u.handler(&p, flags);
     return true;
@@ -291,7 +339,8 @@ bool Host::click(GaugeHeader* g, int x, int y, u32 flags) {
 
 bool Host::hold(GaugeHeader* g, int x, int y, int cycles) {
     MouseRect* r = hit(g, x, y, kMouseLeft);
-    if (r == nullptr) return false;
+    if (r == nullptr)
+        return false;
     PixPoint p{x, y};
     for (int c = 0; c < cycles; ++c) {
         if (c == 0)
@@ -324,7 +373,8 @@ void Host::set_token(u32 id, f64 value) {
 
 // Radio frequencies: the whole number in the first four bytes, the rest 0.
 void Host::set_token_bcd(u32 id, u32 bcd) {
-    if (id == kTokenSimTime) set_token(id, 0.0);
+    if (id == kTokenSimTime)
+        set_token(id, 0.0);
     store_token(id, &bcd, sizeof bcd);
 }
 
@@ -378,23 +428,29 @@ bool Host::window_open(u32 ident) const {
 
 void Host::window_set(u32 ident, bool open) {
     auto it = std::find(windows_.begin(), windows_.end(), ident);
-    if (open && it == windows_.end()) windows_.push_back(ident);
-    if (!open && it != windows_.end()) windows_.erase(it);
+    if (open && it == windows_.end())
+        windows_.push_back(ident);
+    if (!open && it != windows_.end())
+        windows_.erase(it);
 }
 
 // ---------------------------------------------------------------- named variables, calculator
 
 u32 Host::svc_register_named(const char* name) {
     for (std::size_t i = 0; i < named_.size(); ++i)
-        if (named_[i].first == name) return static_cast<u32>(i);
+        if (named_[i].first == name)
+            return static_cast<u32>(i);
     named_.emplace_back(name, 0.0);
     return static_cast<u32>(named_.size() - 1);
 }
 
-f64 Host::svc_get_named(u32 id) const { return id < named_.size() ? named_[id].second : 0.0; }
+f64 Host::svc_get_named(u32 id) const {
+    return id < named_.size() ? named_[id].second : 0.0;
+}
 
 void Host::svc_set_named(u32 id, f64 value) {
-    if (id < named_.size()) named_[id].second = value;
+    if (id < named_.size())
+        named_[id].second = value;
 }
 
 void Host::set_named(std::string_view name, f64 value) {
@@ -408,7 +464,8 @@ void Host::set_named(std::string_view name, f64 value) {
 
 std::optional<f64> Host::named(std::string_view name) const {
     for (const auto& n : named_)
-        if (n.first == name) return n.second;
+        if (n.first == name)
+            return n.second;
     return std::nullopt;
 }
 
@@ -417,11 +474,14 @@ void Host::set_calc(std::string_view expression, f64 value) {
 }
 
 u32 Host::svc_calc(const char* code, f64* result) {
-    if (result == nullptr) return 0;
+    if (result == nullptr)
+        return 0;
     *result = 0.0;
-    if (code == nullptr) return 0;
+    if (code == nullptr)
+        return 0;
     auto it = calc_.find(std::string_view(code));
-    if (it != calc_.end()) *result = it->second;
+    if (it != calc_.end())
+        *result = it->second;
     return 1;
 }
 
@@ -439,14 +499,22 @@ f64 Host::read_field(const FieldInfo& f) const {
         return static_cast<f64>(v);
     };
     switch (f.type) {
-        case kU8: return get(u8{});
-        case kI8: return get(i8{});
-        case kU16: return get(u16{});
-        case kI16: return get(i16{});
-        case kU32: return get(u32{});
-        case kI32: return get(i32{});
-        case kF32: return get(f32{});
-        case kF64: return get(f64{});
+        case kU8:
+            return get(u8{});
+        case kI8:
+            return get(i8{});
+        case kU16:
+            return get(u16{});
+        case kI16:
+            return get(i16{});
+        case kU32:
+            return get(u32{});
+        case kI32:
+            return get(i32{});
+        case kF32:
+            return get(f32{});
+        case kF64:
+            return get(f64{});
     }
     return 0.0;
 }
@@ -454,10 +522,13 @@ f64 Host::read_field(const FieldInfo& f) const {
 namespace {
 template <class T>
 T saturate(f64 v) {
-    if (std::isnan(v)) return T{0};
+    if (std::isnan(v))
+        return T{0};
     if constexpr (std::numeric_limits<T>::is_integer) {
-        if (v <= static_cast<f64>(std::numeric_limits<T>::min())) return std::numeric_limits<T>::min();
-        if (v >= static_cast<f64>(std::numeric_limits<T>::max())) return std::numeric_limits<T>::max();
+        if (v <= static_cast<f64>(std::numeric_limits<T>::min()))
+            return std::numeric_limits<T>::min();
+        if (v >= static_cast<f64>(std::numeric_limits<T>::max()))
+            return std::numeric_limits<T>::max();
         return static_cast<T>(v);
     } else {
         const f64 hi = static_cast<f64>(std::numeric_limits<T>::max());
@@ -470,26 +541,44 @@ void Host::write_field(const FieldInfo& f, f64 value) {
     u8* p = static_cast<u8*>(module_->fields()->state) + f.offset;
     auto put = [p](auto v) { std::memcpy(p, &v, sizeof v); };
     switch (f.type) {
-        case kU8: put(saturate<u8>(value)); break;
-        case kI8: put(saturate<i8>(value)); break;
-        case kU16: put(saturate<u16>(value)); break;
-        case kI16: put(saturate<i16>(value)); break;
-        case kU32: put(saturate<u32>(value)); break;
-        case kI32: put(saturate<i32>(value)); break;
-        case kF32: put(saturate<f32>(value)); break;
-        case kF64: put(value); break;
+        case kU8:
+            put(saturate<u8>(value));
+            break;
+        case kI8:
+            put(saturate<i8>(value));
+            break;
+        case kU16:
+            put(saturate<u16>(value));
+            break;
+        case kI16:
+            put(saturate<i16>(value));
+            break;
+        case kU32:
+            put(saturate<u32>(value));
+            break;
+        case kI32:
+            put(saturate<i32>(value));
+            break;
+        case kF32:
+            put(saturate<f32>(value));
+            break;
+        case kF64:
+            put(value);
+            break;
     }
 }
 
 std::optional<f64> Host::field_value(std::string_view name) const {
     const FieldInfo* f = field(name);
-    if (f == nullptr) return std::nullopt;
+    if (f == nullptr)
+        return std::nullopt;
     return read_field(*f);
 }
 
 bool Host::set_field(std::string_view name, f64 value) {
     const FieldInfo* f = field(name);
-    if (f == nullptr) return false;
+    if (f == nullptr)
+        return false;
     write_field(*f, value);
     return true;
 }
@@ -497,22 +586,26 @@ bool Host::set_field(std::string_view name, f64 value) {
 // ---------------------------------------------------------------- elements
 
 Element* Host::element(GaugeHeader* g, int n) {
-    if (g == nullptr || g->elements == nullptr || n < 0) return nullptr;
+    if (g == nullptr || g->elements == nullptr || n < 0)
+        return nullptr;
     Element* e = g->elements[0];
-    for (int i = 0; i < n && e != nullptr; ++i) e = e->children ? e->children[0] : nullptr;
+    for (int i = 0; i < n && e != nullptr; ++i)
+        e = e->children ? e->children[0] : nullptr;
     return e;
 }
 
 int Host::chain_length(GaugeHeader* g) {
     int n = 0;
-    while (element(g, n) != nullptr) ++n;
+    while (element(g, n) != nullptr)
+        ++n;
     return n;
 }
 
 int Host::child_rows(GaugeHeader* g) {
     int n = 0;
     if (g && g->mouse)
-        for (MouseRect* r = g->mouse; r->row != kRowEnd; ++r) n += r->row == kRowChild;
+        for (MouseRect* r = g->mouse; r->row != kRowEnd; ++r)
+            n += r->row == kRowChild;
     return n;
 }
 

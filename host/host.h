@@ -163,9 +163,9 @@ private:
 
     static constexpr u32 kDirectTokens = 4096;
     static constexpr u32 kTokenSimTime = 604;
-    f64 time_base_ = 0.0;  // token 604 as last set
-    std::uint64_t time_cycles_ = 0;  // cycles since
-    std::vector<std::array<u8, 8>> tokens_;                   // ids below kDirectTokens
+    f64 time_base_ = 0.0;                                    // token 604 as last set
+    std::uint64_t time_cycles_ = 0;                          // cycles since
+    std::vector<std::array<u8, 8>> tokens_;                  // ids below kDirectTokens
     std::unordered_map<u32, std::array<u8, 8>> far_tokens_;  // the rest
     std::vector<std::pair<std::string, f64>> named_;
     std::map<std::string, f64, std::less<>> calc_;

@@ -62,15 +62,18 @@ int main(int argc, char** argv) {
         module = args[1];
         args.erase(args.begin(), args.begin() + 2);
     }
-    if (args.empty()) return usage();
+    if (args.empty())
+        return usage();
     Host host(module);
     if (!host.ok()) {
         std::cerr << host.error() << '\n';
         return 2;
     }
     const std::string& cmd = args[0];
-    if (cmd == "gauges" && args.size() == 1) return list_gauges(host);
-    if (cmd == "fields" && args.size() == 1) return list_fields(host);
+    if (cmd == "gauges" && args.size() == 1)
+        return list_gauges(host);
+    if (cmd == "fields" && args.size() == 1)
+        return list_fields(host);
     if (cmd == "run") {
         std::size_t first = 1;
         if (args.size() >= 3 && args[1] == "--record-audio") {

@@ -18,9 +18,9 @@ namespace {
 
 // The module's sounds, by resource name.
 constexpr std::array<std::string_view, 19> kSoundNames = {
-    "CLICK",      "HI",         "LO",      "GONGMONO",   "KLAXONCONT",     "SONNERIE",
-    "BRAKESSND",  "CRECELLE",   "KLAXONGEAR", "CACHEMETAL", "V80KTS",        "V1KTS",
-    "VRKTS",      "AIRCOND",    "AIRCONDENT", "AIRCONDSORT", "GPWSGLIDESLOPE", "GPWSPULLUP",
+    "CLICK",     "HI",       "LO",         "GONGMONO",    "KLAXONCONT",     "SONNERIE",
+    "BRAKESSND", "CRECELLE", "KLAXONGEAR", "CACHEMETAL",  "V80KTS",         "V1KTS",
+    "VRKTS",     "AIRCOND",  "AIRCONDENT", "AIRCONDSORT", "GPWSGLIDESLOPE", "GPWSPULLUP",
     "ALTRE"};
 
 struct Token {
@@ -51,8 +51,8 @@ bool tokenize(std::string_view line, std::vector<Token>& out, std::string& error
             i = end + 1;
         } else {
             std::size_t end = i;
-            while (end < line.size() && line[end] != ' ' && line[end] != '\t' &&
-                   line[end] != '\r' && line[end] != '#' && line[end] != '"')
+            while (end < line.size() && line[end] != ' ' && line[end] != '\t' && line[end] != '\r' &&
+                   line[end] != '#' && line[end] != '"')
                 ++end;
             out.push_back({std::string(line.substr(i, end - i)), false});
             i = end;
@@ -63,7 +63,8 @@ bool tokenize(std::string_view line, std::vector<Token>& out, std::string& error
 
 // Decimal (-12, 45.5, 1e-3) or hexadecimal (0x102C1) numbers.
 bool parse_number(const std::string& s, double& v) {
-    if (s.empty()) return false;
+    if (s.empty())
+        return false;
     std::size_t i = 0;
     bool negative = false;
     if (s[0] == '-' || s[0] == '+') {
@@ -78,7 +79,8 @@ bool parse_number(const std::string& s, double& v) {
                     : (c >= 'a' && c <= 'f') ? c - 'a' + 10
                     : (c >= 'A' && c <= 'F') ? c - 'A' + 10
                                              : -1;
-            if (d < 0 || n > (~0ull >> 4)) return false;
+            if (d < 0 || n > (~0ull >> 4))
+                return false;
             n = n * 16 + static_cast<unsigned>(d);
         }
         v = negative ? -static_cast<double>(n) : static_cast<double>(n);
@@ -92,11 +94,13 @@ bool parse_number(const std::string& s, double& v) {
         else if (c != '.' && c != 'e' && c != 'E' && c != '-' && c != '+')
             return false;
     }
-    if (!digits) return false;
+    if (!digits)
+        return false;
     errno = 0;
     char* end = nullptr;
     v = std::strtod(s.c_str(), &end);
-    if (end != s.c_str() + s.size() || !std::isfinite(v)) return false;
+    if (end != s.c_str() + s.size() || !std::isfinite(v))
+        return false;
     return true;
 }
 
@@ -111,20 +115,27 @@ std::string fmt(double v) {
 
 const char* op_text(CmpOp op) {
     switch (op) {
-        case CmpOp::Eq: return "==";
-        case CmpOp::Ne: return "!=";
-        case CmpOp::Lt: return "<";
-        case CmpOp::Le: return "<=";
-        case CmpOp::Gt: return ">";
-        case CmpOp::Ge: return ">=";
-        case CmpOp::Near: return "~=";
+        case CmpOp::Eq:
+            return "==";
+        case CmpOp::Ne:
+            return "!=";
+        case CmpOp::Lt:
+            return "<";
+        case CmpOp::Le:
+            return "<=";
+        case CmpOp::Gt:
+            return ">";
+        case CmpOp::Ge:
+            return ">=";
+        case CmpOp::Near:
+            return "~=";
     }
     return "?";
 }
 
 bool parse_op(const std::string& s, CmpOp& op) {
     static const std::pair<std::string_view, CmpOp> ops[] = {
-        {"==", CmpOp::Eq}, {"!=", CmpOp::Ne}, {"<", CmpOp::Lt},  {"<=", CmpOp::Le},
+        {"==", CmpOp::Eq}, {"!=", CmpOp::Ne}, {"<", CmpOp::Lt},   {"<=", CmpOp::Le},
         {">", CmpOp::Gt},  {">=", CmpOp::Ge}, {"~=", CmpOp::Near}};
     for (const auto& [text, o] : ops)
         if (s == text) {
@@ -136,13 +147,20 @@ bool parse_op(const std::string& s, CmpOp& op) {
 
 bool compare(double a, CmpOp op, double b, double tol) {
     switch (op) {
-        case CmpOp::Eq: return a == b;
-        case CmpOp::Ne: return a != b;
-        case CmpOp::Lt: return a < b;
-        case CmpOp::Le: return a <= b;
-        case CmpOp::Gt: return a > b;
-        case CmpOp::Ge: return a >= b;
-        case CmpOp::Near: return std::fabs(a - b) <= tol;
+        case CmpOp::Eq:
+            return a == b;
+        case CmpOp::Ne:
+            return a != b;
+        case CmpOp::Lt:
+            return a < b;
+        case CmpOp::Le:
+            return a <= b;
+        case CmpOp::Gt:
+            return a > b;
+        case CmpOp::Ge:
+            return a >= b;
+        case CmpOp::Near:
+            return std::fabs(a - b) <= tol;
     }
     return false;
 }
@@ -156,7 +174,8 @@ public:
     bool ok() const { return fault_.empty(); }
     const std::string& fault() const { return fault_; }
     void fail(std::string m) {
-        if (fault_.empty()) fault_ = std::move(m);
+        if (fault_.empty())
+            fault_ = std::move(m);
     }
     bool more() const { return at_ < t_.size(); }
     const Token* peek() const { return more() ? &t_[at_] : nullptr; }
@@ -176,7 +195,8 @@ public:
         return false;
     }
     void expect_word(const char* k) {
-        if (!keyword(k)) fail(std::string("expected '") + k + "'");
+        if (!keyword(k))
+            fail(std::string("expected '") + k + "'");
     }
     std::string quoted(const char* what) {
         if (!more() || !t_[at_].quoted) {
@@ -210,13 +230,16 @@ public:
     }
     int gauge() {
         std::string g = quoted("a gauge name");
-        if (!ok()) return -1;
+        if (!ok())
+            return -1;
         int i = host_.gauge_index(g);
-        if (i < 0) fail("unknown gauge \"" + g + "\"");
+        if (i < 0)
+            fail("unknown gauge \"" + g + "\"");
         return i;
     }
     void end() {
-        if (ok() && more()) fail("unexpected '" + t_[at_].text + "' at the end of the line");
+        if (ok() && more())
+            fail("unexpected '" + t_[at_].text + "' at the end of the line");
     }
 
 private:
@@ -244,7 +267,8 @@ void parse_expect(Line& l, Command& c, const Host& host) {
     auto value_check = [&](CmdKind kind) {
         c.kind = kind;
         std::string op = l.word("a comparison (== != < <= > >= ~=)");
-        if (!l.ok()) return;
+        if (!l.ok())
+            return;
         if (!parse_op(op, c.op)) {
             l.fail("unknown comparison '" + op + "'");
             return;
@@ -252,7 +276,8 @@ void parse_expect(Line& l, Command& c, const Host& host) {
         c.value = l.number("the value");
         if (c.op == CmpOp::Near) {
             c.tolerance = l.number("the tolerance");
-            if (l.ok() && c.tolerance < 0) l.fail("bad number '" + fmt(c.tolerance) + "' for the tolerance: it cannot be negative");
+            if (l.ok() && c.tolerance < 0)
+                l.fail("bad number '" + fmt(c.tolerance) + "' for the tolerance: it cannot be negative");
         }
     };
     if (l.keyword("token")) {
@@ -274,7 +299,8 @@ void parse_expect(Line& l, Command& c, const Host& host) {
     } else if (l.keyword("sound")) {
         c.kind = CmdKind::ExpectSound;
         c.name = l.quoted("a sound name");
-        if (!l.ok()) return;
+        if (!l.ok())
+            return;
         if (std::find(kSoundNames.begin(), kSoundNames.end(), c.name) == kSoundNames.end()) {
             l.fail("unknown sound \"" + c.name + "\"");
             return;
@@ -311,7 +337,8 @@ void parse_expect(Line& l, Command& c, const Host& host) {
             l.fail("expected 'open' or 'closed'");
     } else {
         std::string name = l.word("a state field, token, named, event, sound, shown, hidden or window");
-        if (!l.ok()) return;
+        if (!l.ok())
+            return;
         if (host.field(name) == nullptr) {
             l.fail("unknown field '" + name + "'");
             return;
@@ -321,8 +348,8 @@ void parse_expect(Line& l, Command& c, const Host& host) {
     }
 }
 
-bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host,
-                std::vector<int>& installed, std::string& error) {
+bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host, std::vector<int>& installed,
+                std::string& error) {
     Line l(tokens, host);
     std::string cmd = l.word("a command");
     if (cmd == "gauges") {
@@ -333,10 +360,12 @@ bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host,
                     installed.push_back(i);
         } else {
             c.kind = CmdKind::Gauges;
-            if (!l.more()) l.fail("expected gauge names in double quotes");
+            if (!l.more())
+                l.fail("expected gauge names in double quotes");
             while (l.ok() && l.more()) {
                 int g = l.gauge();
-                if (!l.ok()) break;
+                if (!l.ok())
+                    break;
                 c.gauges.push_back(g);
                 if (std::find(installed.begin(), installed.end(), g) == installed.end())
                     installed.push_back(g);
@@ -384,14 +413,15 @@ bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host,
     } else if (cmd == "set") {
         c.kind = CmdKind::Set;
         c.name = l.word("a state field");
-        if (l.ok() && host.field(c.name) == nullptr) l.fail("unknown field '" + c.name + "'");
+        if (l.ok() && host.field(c.name) == nullptr)
+            l.fail("unknown field '" + c.name + "'");
         l.expect_word("=");
         c.value = l.number("the value");
     } else if (cmd == "run") {
         c.kind = CmdKind::Run;
         c.n = static_cast<int>(l.whole("a cycle count", 0, kIntMax));
     } else if (cmd == "click" || cmd == "rclick" || cmd == "move" || cmd == "hold") {
-        c.kind = cmd == "click" ? CmdKind::Click
+        c.kind = cmd == "click"    ? CmdKind::Click
                  : cmd == "rclick" ? CmdKind::RClick
                  : cmd == "move"   ? CmdKind::Move
                                    : CmdKind::Hold;
@@ -399,7 +429,8 @@ bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host,
         c.gauges.push_back(g);
         c.x = static_cast<int>(l.whole("X", -kIntMax, kIntMax));
         c.y = static_cast<int>(l.whole("Y", -kIntMax, kIntMax));
-        if (c.kind == CmdKind::Hold) c.n = static_cast<int>(l.whole("a cycle count", 1, kIntMax));
+        if (c.kind == CmdKind::Hold)
+            c.n = static_cast<int>(l.whole("a cycle count", 1, kIntMax));
         if (l.ok()) {
             u32 flags = c.kind == CmdKind::RClick ? kMouseRight
                         : c.kind == CmdKind::Move ? kMouseMove
@@ -409,16 +440,14 @@ bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host,
                        host.gauge(g)->name + "\"");
         }
     } else if (cmd == "expect") {
-        if (l.peek() && !l.peek()->quoted &&
-            (l.peek()->text == "shown" || l.peek()->text == "hidden")) {
+        if (l.peek() && !l.peek()->quoted && (l.peek()->text == "shown" || l.peek()->text == "hidden")) {
             c.kind = l.peek()->text == "shown" ? CmdKind::ExpectShown : CmdKind::ExpectHidden;
             l.word("shown or hidden");
             int g = l.gauge();
             c.gauges.push_back(g);
             c.n = static_cast<int>(l.whole("an element number", 0, kIntMax));
             if (l.ok() && Host::element(host.gauge(g), c.n) == nullptr)
-                l.fail("gauge \"" + std::string(host.gauge(g)->name) + "\" has no element e" +
-                       fmt(c.n));
+                l.fail("gauge \"" + std::string(host.gauge(g)->name) + "\" has no element e" + fmt(c.n));
         } else {
             parse_expect(l, c, host);
         }
@@ -426,7 +455,8 @@ bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host,
         l.fail("unknown command '" + cmd + "'");
     }
     l.end();
-    if (!l.ok()) error = l.fault();
+    if (!l.ok())
+        error = l.fault();
     return l.ok();
 }
 
@@ -447,7 +477,8 @@ bool is_step(CmdKind k) {
 std::string event_summary(const std::vector<KeyEvent>& events) {
     std::vector<std::pair<u32, int>> counts;
     for (const KeyEvent& e : events) {
-        auto it = std::find_if(counts.begin(), counts.end(), [&](const auto& p) { return p.first == e.event; });
+        auto it =
+            std::find_if(counts.begin(), counts.end(), [&](const auto& p) { return p.first == e.event; });
         if (it == counts.end())
             counts.push_back({e.event, 1});
         else
@@ -456,16 +487,18 @@ std::string event_summary(const std::vector<KeyEvent>& events) {
     std::string s;
     for (std::size_t i = 0; i < counts.size() && i < 8; ++i) {
         s += (i ? ", " : "") + fmt(counts[i].first);
-        if (counts[i].second > 1) s += " x" + fmt(counts[i].second);
+        if (counts[i].second > 1)
+            s += " x" + fmt(counts[i].second);
     }
-    if (counts.size() > 8) s += ", ...";
+    if (counts.size() > 8)
+        s += ", ...";
     return s;
 }
 
 }  // namespace
 
-bool parse_script(const std::string& file, const std::string& text, const Host& host,
-                  Script& script, ParseError& error) {
+bool parse_script(const std::string& file, const std::string& text, const Host& host, Script& script,
+                  ParseError& error) {
     script.file = file;
     script.commands.clear();
     std::vector<int> installed;
@@ -480,7 +513,8 @@ bool parse_script(const std::string& file, const std::string& text, const Host& 
             error = {file, line_no, message};
             return false;
         }
-        if (tokens.empty()) continue;
+        if (tokens.empty())
+            continue;
         Command c;
         c.line = line_no;
         if (!parse_line(tokens, c, host, installed, message)) {
@@ -492,12 +526,12 @@ bool parse_script(const std::string& file, const std::string& text, const Host& 
     return true;
 }
 
-Runner::Runner(Host& host, RunTotals& totals, std::ostream& out)
-    : host_(host), totals_(totals), out_(out) {}
+Runner::Runner(Host& host, RunTotals& totals, std::ostream& out) : host_(host), totals_(totals), out_(out) {}
 
 bool Runner::begin(const std::string& file) {
     file_ = file;
-    if (host_.reload()) return true;
+    if (host_.reload())
+        return true;
     out_ << file << ":1: " << host_.error() << "\n";
     ++totals_.failed;
     return false;
@@ -511,33 +545,61 @@ void Runner::fail(const Command& c, const std::string& expected, const std::stri
 int Runner::count_event(u32 id, const double* value) const {
     int n = 0;
     for (const KeyEvent& e : host_.events())
-        if (e.event == id && (value == nullptr || e.value == *value)) ++n;
+        if (e.event == id && (value == nullptr || e.value == *value))
+            ++n;
     return n;
 }
 
 void Runner::execute(const Command& c) {
-    if (is_step(c.kind)) host_.begin_step();
+    if (is_step(c.kind))
+        host_.begin_step();
     GaugeHeader* g = c.gauges.empty() ? nullptr : host_.gauge(c.gauges[0]);
     // Messages are built only for failed checks, so that passing checks cost nothing.
     bool pass = true;
     switch (c.kind) {
-        case CmdKind::GaugesAll: host_.install_all(); return;
-        case CmdKind::Gauges:
-            for (int i : c.gauges) host_.install(host_.gauge(i));
+        case CmdKind::GaugesAll:
+            host_.install_all();
             return;
-        case CmdKind::Remove: host_.remove(g); return;
+        case CmdKind::Gauges:
+            for (int i : c.gauges)
+                host_.install(host_.gauge(i));
+            return;
+        case CmdKind::Remove:
+            host_.remove(g);
+            return;
         case CmdKind::AircraftOff:
-        case CmdKind::AircraftDefault: return;
-        case CmdKind::Token: host_.set_token(c.id, c.value); return;
-        case CmdKind::TokenBcd: host_.set_token_bcd(c.id, static_cast<u32>(c.value)); return;
-        case CmdKind::Named: host_.set_named(c.name, c.value); return;
-        case CmdKind::Calc: host_.set_calc(c.name, c.value); return;
-        case CmdKind::Set: host_.set_field(c.name, c.value); return;
-        case CmdKind::Run: host_.run(c.n); return;
-        case CmdKind::Click: host_.click(g, c.x, c.y, kMouseLeft); return;
-        case CmdKind::RClick: host_.click(g, c.x, c.y, kMouseRight); return;
-        case CmdKind::Move: host_.click(g, c.x, c.y, kMouseMove); return;
-        case CmdKind::Hold: host_.hold(g, c.x, c.y, c.n); return;
+        case CmdKind::AircraftDefault:
+            return;
+        case CmdKind::Token:
+            host_.set_token(c.id, c.value);
+            return;
+        case CmdKind::TokenBcd:
+            host_.set_token_bcd(c.id, static_cast<u32>(c.value));
+            return;
+        case CmdKind::Named:
+            host_.set_named(c.name, c.value);
+            return;
+        case CmdKind::Calc:
+            host_.set_calc(c.name, c.value);
+            return;
+        case CmdKind::Set:
+            host_.set_field(c.name, c.value);
+            return;
+        case CmdKind::Run:
+            host_.run(c.n);
+            return;
+        case CmdKind::Click:
+            host_.click(g, c.x, c.y, kMouseLeft);
+            return;
+        case CmdKind::RClick:
+            host_.click(g, c.x, c.y, kMouseRight);
+            return;
+        case CmdKind::Move:
+            host_.click(g, c.x, c.y, kMouseMove);
+            return;
+        case CmdKind::Hold:
+            host_.hold(g, c.x, c.y, c.n);
+            return;
         case CmdKind::ExpectField:
         case CmdKind::ExpectToken:
         case CmdKind::ExpectNamed: {
@@ -550,21 +612,24 @@ void Runner::execute(const Command& c) {
                                    : c.kind == CmdKind::ExpectToken ? "token " + fmt(c.id)
                                                                     : "named \"" + c.name + "\"";
                 std::string expected = what + " " + op_text(c.op) + " " + fmt(c.value);
-                if (c.op == CmpOp::Near) expected += " +/- " + fmt(c.tolerance);
+                if (c.op == CmpOp::Near)
+                    expected += " +/- " + fmt(c.tolerance);
                 fail(c, expected, fmt(v));
             }
             break;
         }
         case CmdKind::ExpectEvent:
             pass = count_event(c.id, nullptr) > 0;
-            if (!pass) fail(c, "event " + fmt(c.id), "none");
+            if (!pass)
+                fail(c, "event " + fmt(c.id), "none");
             break;
         case CmdKind::ExpectEventValue:
             pass = count_event(c.id, &c.value) > 0;
             if (!pass) {
                 std::string values;
                 for (const KeyEvent& e : host_.events())
-                    if (e.event == c.id) values += (values.empty() ? "" : ", ") + fmt(e.value);
+                    if (e.event == c.id)
+                        values += (values.empty() ? "" : ", ") + fmt(e.value);
                 fail(c, "event " + fmt(c.id) + " value " + fmt(c.value),
                      values.empty() ? std::string("no such event") : "values " + values);
             }
@@ -572,18 +637,21 @@ void Runner::execute(const Command& c) {
         case CmdKind::ExpectEventCount: {
             int n = count_event(c.id, nullptr);
             pass = n == c.n;
-            if (!pass) fail(c, "event " + fmt(c.id) + " count " + fmt(c.n), fmt(n));
+            if (!pass)
+                fail(c, "event " + fmt(c.id) + " count " + fmt(c.n), fmt(n));
             break;
         }
         case CmdKind::ExpectNoEvent: {
             int n = count_event(c.id, nullptr);
             pass = n == 0;
-            if (!pass) fail(c, "no event " + fmt(c.id), fmt(n) + " of it");
+            if (!pass)
+                fail(c, "no event " + fmt(c.id), fmt(n) + " of it");
             break;
         }
         case CmdKind::ExpectNoEvents:
             pass = host_.events().empty();
-            if (!pass) fail(c, "no events", event_summary(host_.events()));
+            if (!pass)
+                fail(c, "no events", event_summary(host_.events()));
             break;
         case CmdKind::ExpectSound:
             pass = check_sound(c);
@@ -609,37 +677,46 @@ void Runner::execute(const Command& c) {
             break;
         }
     }
-    if (pass) ++totals_.passed;
+    if (pass)
+        ++totals_.passed;
 }
 
 bool Runner::check_sound(const Command& c) {
     int once = 0, looping = 0, stops = 0;
     for (const SoundEvent& e : host_.sound_device().log()) {
-        if (e.buffer->name != c.name) continue;
-        if (e.op == SoundOp::Play) ++((e.flags & DSBPLAY_LOOPING) ? looping : once);
-        if (e.op == SoundOp::Stop && e.flags) ++stops;  // stopping a silent buffer is not heard
+        if (e.buffer->name != c.name)
+            continue;
+        if (e.op == SoundOp::Play)
+            ++((e.flags & DSBPLAY_LOOPING) ? looping : once);
+        if (e.op == SoundOp::Stop && e.flags)
+            ++stops;  // stopping a silent buffer is not heard
     }
     const SoundBuffer* now = host_.sound(c.name);
     auto what = [&](const std::string& rest) { return "sound \"" + c.name + "\" " + rest; };
     switch (c.sound) {
         case SoundCheck::Played:
-            if (once > 0) return true;
+            if (once > 0)
+                return true;
             fail(c, what("played"), looping ? "only looping" : "not played");
             return false;
         case SoundCheck::PlayedCount:
-            if (once == c.n) return true;
+            if (once == c.n)
+                return true;
             fail(c, what("played count " + fmt(c.n)), fmt(once));
             return false;
         case SoundCheck::Looping:
-            if (looping > 0) return true;
+            if (looping > 0)
+                return true;
             fail(c, what("looping"), once ? "only played once" : "not started");
             return false;
         case SoundCheck::Stopped:
-            if (stops > 0) return true;
+            if (stops > 0)
+                return true;
             fail(c, what("stopped"), "not stopped");
             return false;
         case SoundCheck::Silent:
-            if (once + looping + stops == 0) return true;
+            if (once + looping + stops == 0)
+                return true;
             fail(c, what("silent"),
                  fmt(once) + " played, " + fmt(looping) + " looping, " + fmt(stops) + " stopped");
             return false;
@@ -647,13 +724,15 @@ bool Runner::check_sound(const Command& c) {
         case SoundCheck::Idle: {
             bool playing = now != nullptr && now->playing;
             bool want = c.sound == SoundCheck::Playing;
-            if (playing == want) return true;
+            if (playing == want)
+                return true;
             fail(c, what(want ? "playing" : "idle"),
                  now == nullptr ? "not loaded" : (playing ? "playing" : "idle"));
             return false;
         }
         case SoundCheck::Volume:
-            if (now != nullptr && now->volume == c.value) return true;
+            if (now != nullptr && now->volume == c.value)
+                return true;
             fail(c, what("volume " + fmt(c.value)), now == nullptr ? "not loaded" : fmt(now->volume));
             return false;
     }
@@ -662,8 +741,10 @@ bool Runner::check_sound(const Command& c) {
 
 void run_script(const Script& script, Host& host, RunTotals& totals, std::ostream& out) {
     Runner runner(host, totals, out);
-    if (!runner.begin(script.file)) return;
-    for (const Command& c : script.commands) runner.execute(c);
+    if (!runner.begin(script.file))
+        return;
+    for (const Command& c : script.commands)
+        runner.execute(c);
 }
 
 int run_paths(const std::vector<std::string>& paths, Host& host, std::ostream& out) {
@@ -675,7 +756,8 @@ int run_paths(const std::vector<std::string>& paths, Host& host, std::ostream& o
         if (fs::is_directory(p, ec)) {
             std::vector<std::string> found;
             for (const auto& entry : fs::directory_iterator(p, ec))
-                if (entry.path().extension() == ".scn") found.push_back(entry.path().string());
+                if (entry.path().extension() == ".scn")
+                    found.push_back(entry.path().string());
             std::sort(found.begin(), found.end());
             files.insert(files.end(), found.begin(), found.end());
         } else {
@@ -702,7 +784,8 @@ int run_paths(const std::vector<std::string>& paths, Host& host, std::ostream& o
         run_script(script, host, totals, out);
     }
     out << totals.passed << " passed, " << totals.failed << " failed\n";
-    if (bad) return 2;
+    if (bad)
+        return 2;
     return totals.failed > 0 ? 1 : 0;
 }
 

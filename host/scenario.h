@@ -77,8 +77,8 @@ struct ParseError {
 // Parses `text` as the script `file`. Names are checked against the module
 // loaded in `host` (gauges, fields, mouse areas). Returns false and fills
 // `error` on the first fault.
-bool parse_script(const std::string& file, const std::string& text, const Host& host,
-                  Script& script, ParseError& error);
+bool parse_script(const std::string& file, const std::string& text, const Host& host, Script& script,
+                  ParseError& error);
 
 // Runs the commands of one script, one at a time.
 class Runner {

@@ -17,18 +17,26 @@ SoundBuffer* owner(IDirectSoundBuffer* p) {
     return p ? reinterpret_cast<ComBuffer*>(p)->owner : nullptr;
 }
 
-HRESULT b_qi(IDirectSoundBuffer*, const GUID*, void**) { return kGenericFail; }
-DWORD b_addref(IDirectSoundBuffer*) { return 1; }
-DWORD b_release(IDirectSoundBuffer* p) { return SoundDevice::instance().release(owner(p)); }
+HRESULT b_qi(IDirectSoundBuffer*, const GUID*, void**) {
+    return kGenericFail;
+}
+DWORD b_addref(IDirectSoundBuffer*) {
+    return 1;
+}
+DWORD b_release(IDirectSoundBuffer* p) {
+    return SoundDevice::instance().release(owner(p));
+}
 HRESULT b_get_status(IDirectSoundBuffer* p, LPDWORD status) {
     SoundBuffer* b = owner(p);
-    if (!b || !status) return kInvalidParam;
+    if (!b || !status)
+        return kInvalidParam;
     *status = (b->playing ? DSBSTATUS_PLAYING : 0) | (b->playing && b->looping ? DSBSTATUS_LOOPING : 0);
     return DS_OK;
 }
 HRESULT b_get_volume(IDirectSoundBuffer* p, LONG* v) {
     SoundBuffer* b = owner(p);
-    if (!b || !v) return kInvalidParam;
+    if (!b || !v)
+        return kInvalidParam;
     *v = b->volume;
     return DS_OK;
 }
@@ -39,19 +47,31 @@ HRESULT b_lock(IDirectSoundBuffer* p, DWORD off, DWORD n, LPVOID* p1, LPDWORD n1
 HRESULT b_play(IDirectSoundBuffer* p, DWORD, DWORD, DWORD flags) {
     return SoundDevice::instance().play(owner(p), flags);
 }
-HRESULT b_set_volume(IDirectSoundBuffer* p, LONG v) { return SoundDevice::instance().set_volume(owner(p), v); }
-HRESULT b_stop(IDirectSoundBuffer* p) { return SoundDevice::instance().stop(owner(p)); }
-HRESULT b_unlock(IDirectSoundBuffer*, LPVOID, DWORD, LPVOID, DWORD) { return DS_OK; }
+HRESULT b_set_volume(IDirectSoundBuffer* p, LONG v) {
+    return SoundDevice::instance().set_volume(owner(p), v);
+}
+HRESULT b_stop(IDirectSoundBuffer* p) {
+    return SoundDevice::instance().stop(owner(p));
+}
+HRESULT b_unlock(IDirectSoundBuffer*, LPVOID, DWORD, LPVOID, DWORD) {
+    return DS_OK;
+}
 
 const IDirectSoundBufferVtbl kBufferVtbl = {
-    b_qi,    b_addref, b_release,   nullptr,      nullptr, nullptr, b_get_volume,
-    nullptr, nullptr,  b_get_status, nullptr,     b_lock,  b_play,  nullptr,
-    nullptr, b_set_volume, nullptr, nullptr,      b_stop,  b_unlock, nullptr,
+    b_qi,    b_addref,     b_release,    nullptr, nullptr, nullptr,  b_get_volume,
+    nullptr, nullptr,      b_get_status, nullptr, b_lock,  b_play,   nullptr,
+    nullptr, b_set_volume, nullptr,      nullptr, b_stop,  b_unlock, nullptr,
 };
 
-HRESULT d_qi(IDirectSound8*, const GUID*, void**) { return kGenericFail; }
-DWORD d_addref(IDirectSound8*) { return 1; }
-DWORD d_release(IDirectSound8*) { return SoundDevice::instance().release_device(); }
+HRESULT d_qi(IDirectSound8*, const GUID*, void**) {
+    return kGenericFail;
+}
+DWORD d_addref(IDirectSound8*) {
+    return 1;
+}
+DWORD d_release(IDirectSound8*) {
+    return SoundDevice::instance().release_device();
+}
 HRESULT d_create_buffer(IDirectSound8*, const DSBUFFERDESC* desc, IDirectSoundBuffer** out, LPUNKNOWN) {
     return SoundDevice::instance().create_buffer(desc, out);
 }
@@ -60,8 +80,8 @@ HRESULT d_set_level(IDirectSound8*, HWND, DWORD level) {
 }
 
 const IDirectSound8Vtbl kDeviceVtbl = {
-    d_qi, d_addref, d_release, d_create_buffer, nullptr, nullptr, d_set_level,
-    nullptr, nullptr, nullptr, nullptr, nullptr,
+    d_qi,        d_addref, d_release, d_create_buffer, nullptr, nullptr,
+    d_set_level, nullptr,  nullptr,   nullptr,         nullptr, nullptr,
 };
 
 IDirectSound8 g_device{&kDeviceVtbl};
@@ -86,14 +106,17 @@ void SoundDevice::reset() {
 
 SoundBuffer* SoundDevice::buffer(const void* handle) const {
     for (const auto& b : buffers_)
-        if (&b->com.base == handle) return b.get();
+        if (&b->com.base == handle)
+            return b.get();
     return nullptr;
 }
 
 HRESULT SoundDevice::create(IDirectSound8** out) {
-    if (out == nullptr) return kInvalidParam;
+    if (out == nullptr)
+        return kInvalidParam;
     *out = nullptr;
-    if (faults.fail_device) return kGenericFail;
+    if (faults.fail_device)
+        return kGenericFail;
     created_ = true;
     device_released_ = false;
     *out = &g_device;
@@ -111,9 +134,11 @@ DWORD SoundDevice::release_device() {
 }
 
 HRESULT SoundDevice::create_buffer(const DSBUFFERDESC* desc, IDirectSoundBuffer** out) {
-    if (out == nullptr || desc == nullptr || desc->lpwfxFormat == nullptr) return kInvalidParam;
+    if (out == nullptr || desc == nullptr || desc->lpwfxFormat == nullptr)
+        return kInvalidParam;
     *out = nullptr;
-    if (creations_++ == faults.fail_create_at) return kGenericFail;
+    if (creations_++ == faults.fail_create_at)
+        return kGenericFail;
     const WAVEFORMATEX& f = *desc->lpwfxFormat;
     // DirectSound takes PCM of one or two channels, 8 or 16 bits.
     if (f.wFormatTag != WAVE_FORMAT_PCM || f.nChannels < 1 || f.nChannels > 2 ||
@@ -134,10 +159,13 @@ HRESULT SoundDevice::create_buffer(const DSBUFFERDESC* desc, IDirectSoundBuffer*
 
 HRESULT SoundDevice::lock(SoundBuffer* b, DWORD offset, DWORD bytes, LPVOID* p1, LPDWORD n1, LPVOID* p2,
                           LPDWORD n2) {
-    if (b == nullptr || p1 == nullptr || n1 == nullptr || b->released) return kInvalidParam;
-    if (locks_++ == faults.fail_lock_at) return kGenericFail;
+    if (b == nullptr || p1 == nullptr || n1 == nullptr || b->released)
+        return kInvalidParam;
+    if (locks_++ == faults.fail_lock_at)
+        return kGenericFail;
     const DWORD size = static_cast<DWORD>(b->data.size());
-    if (offset >= size || bytes > size) return kInvalidParam;
+    if (offset >= size || bytes > size)
+        return kInvalidParam;
     DWORD first = std::min(bytes, size - offset);
     DWORD second = bytes - first;  // wraps to the start
     if (faults.split_lock_at > 0 && second == 0 && faults.split_lock_at < first) {
@@ -161,7 +189,8 @@ HRESULT SoundDevice::lock(SoundBuffer* b, DWORD offset, DWORD bytes, LPVOID* p1,
 }
 
 HRESULT SoundDevice::play(SoundBuffer* b, DWORD flags) {
-    if (b == nullptr || b->released) return kInvalidParam;
+    if (b == nullptr || b->released)
+        return kInvalidParam;
     log_.push_back({b, SoundOp::Play, flags, 0});
     b->looping = (flags & DSBPLAY_LOOPING) != 0;
     b->playing = true;
@@ -170,7 +199,8 @@ HRESULT SoundDevice::play(SoundBuffer* b, DWORD flags) {
 }
 
 HRESULT SoundDevice::stop(SoundBuffer* b) {
-    if (b == nullptr || b->released) return kInvalidParam;
+    if (b == nullptr || b->released)
+        return kInvalidParam;
     // flags 1: it was playing (a stop that silenced something)
     log_.push_back({b, SoundOp::Stop, b->playing ? 1u : 0u, 0});
     b->playing = false;  // the position stays where it is
@@ -178,15 +208,18 @@ HRESULT SoundDevice::stop(SoundBuffer* b) {
 }
 
 HRESULT SoundDevice::set_volume(SoundBuffer* b, LONG volume) {
-    if (b == nullptr || b->released) return kInvalidParam;
+    if (b == nullptr || b->released)
+        return kInvalidParam;
     log_.push_back({b, SoundOp::Volume, 0, volume});
-    if (volume < DSBVOLUME_MIN || volume > DSBVOLUME_MAX) return kInvalidParam;
+    if (volume < DSBVOLUME_MIN || volume > DSBVOLUME_MAX)
+        return kInvalidParam;
     b->volume = volume;
     return DS_OK;
 }
 
 DWORD SoundDevice::release(SoundBuffer* b) {
-    if (b == nullptr || b->released) return 0;
+    if (b == nullptr || b->released)
+        return 0;
     log_.push_back({b, SoundOp::Release, 0, 0});
     b->released = true;
     b->playing = false;
@@ -202,7 +235,8 @@ void SoundDevice::advance(std::vector<std::int16_t>* mix) {
     }
     for (auto& owned : buffers_) {
         SoundBuffer& b = *owned;
-        if (!b.playing) continue;
+        if (!b.playing)
+            continue;
         const double rate = b.format.nSamplesPerSec;
         const int channels = b.format.nChannels;
         const int bytes = b.format.wBitsPerSample / 8;
@@ -214,8 +248,9 @@ void SoundDevice::advance(std::vector<std::int16_t>* mix) {
                 std::size_t at = static_cast<std::size_t>(b.position);
                 for (int ch = 0; ch < 2; ++ch) {
                     std::size_t off = (at * channels + (channels == 2 ? ch : 0)) * bytes;
-                    double x = bytes == 1 ? (b.data[off] - 128) / 128.0
-                                          : static_cast<std::int16_t>(b.data[off] | b.data[off + 1] << 8) / 32768.0;
+                    double x = bytes == 1
+                                   ? (b.data[off] - 128) / 128.0
+                                   : static_cast<std::int16_t>(b.data[off] | b.data[off + 1] << 8) / 32768.0;
                     std::int16_t& out = (*mix)[base + 2 * i + ch];
                     out = static_cast<std::int16_t>(std::clamp(out + x * gain * 32767.0, -32768.0, 32767.0));
                 }
@@ -255,12 +290,14 @@ void put_header(std::FILE* f, std::uint32_t bytes) {
 
 Recorder::Recorder(const std::string& path) {
     file_ = std::fopen(path.c_str(), "wb");
-    if (file_) put_header(file_, 0);
+    if (file_)
+        put_header(file_, 0);
     cycle_.reserve(2 * kMixRate / kCyclesPerSecond);
 }
 
 Recorder::~Recorder() {
-    if (!file_) return;
+    if (!file_)
+        return;
     std::fseek(file_, 0, SEEK_SET);
     put_header(file_, bytes_);
     std::fclose(file_);

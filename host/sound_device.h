@@ -6,13 +6,13 @@
 #pragma once
 
 #define KESTRANE_DSOUND_PROVIDER
-#include "frame/dsound.h"
-
 #include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "frame/dsound.h"
 
 namespace kestrane::host {
 
@@ -50,8 +50,8 @@ struct SoundBuffer {
 // Faults a test can ask the device for.
 struct SoundFaults {
     bool fail_device = false;
-    int fail_create_at = -1;  // the n-th CreateSoundBuffer fails (0-based)
-    int fail_lock_at = -1;    // the n-th Lock fails
+    int fail_create_at = -1;          // the n-th CreateSoundBuffer fails (0-based)
+    int fail_lock_at = -1;            // the n-th Lock fails
     std::uint32_t split_lock_at = 0;  // Lock returns two regions split here (0: one region)
 };
 
@@ -84,8 +84,7 @@ public:
     HRESULT create_buffer(const DSBUFFERDESC* desc, IDirectSoundBuffer** out);
     HRESULT set_cooperative_level(std::uint32_t level);
     DWORD release_device();
-    HRESULT lock(SoundBuffer* b, DWORD offset, DWORD bytes, LPVOID* p1, LPDWORD n1, LPVOID* p2,
-                 LPDWORD n2);
+    HRESULT lock(SoundBuffer* b, DWORD offset, DWORD bytes, LPVOID* p1, LPDWORD n1, LPVOID* p2, LPDWORD n2);
     HRESULT play(SoundBuffer* b, DWORD flags);
     HRESULT stop(SoundBuffer* b);
     HRESULT set_volume(SoundBuffer* b, LONG volume);

@@ -33,7 +33,9 @@ void* realloc(void* p, std::size_t n) {
     ++g_allocations;
     return __libc_realloc(p, n);
 }
-void free(void* p) { __libc_free(p); }
+void free(void* p) {
+    __libc_free(p);
+}
 }
 
 namespace {
@@ -57,7 +59,8 @@ TEST(Allocations, NonePerCycleClickOrHoldWithEveryGaugeInstalled) {
     host.run(500);
     EXPECT_EQ(g_allocations - before, 0u) << "update cycles allocate";
     before = g_allocations;
-    for (int i = 0; i < 100; ++i) host.click(diag, 3, 3);
+    for (int i = 0; i < 100; ++i)
+        host.click(diag, 3, 3);
     host.hold(diag, 3, 3, 50);
     EXPECT_EQ(g_allocations - before, 0u) << "mouse dispatch allocates";
 }
@@ -98,7 +101,8 @@ TEST(Allocations, NoneInScenarioStepsAndPassingChecks) {
     runner.execute(script.commands[2]);  // start-up
     std::size_t before = g_allocations;
     for (int round = 0; round < 10; ++round)
-        for (std::size_t i = 2; i < script.commands.size(); ++i) runner.execute(script.commands[i]);
+        for (std::size_t i = 2; i < script.commands.size(); ++i)
+            runner.execute(script.commands[i]);
     EXPECT_EQ(g_allocations - before, 0u);
     EXPECT_EQ(totals.failed, 0) << out.str();
 }

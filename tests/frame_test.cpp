@@ -156,7 +156,9 @@ TEST_F(Frame, DiagnosticGaugeDeclaration) {
     EXPECT_EQ(box.flags, kMouseLeft);
 }
 
-const char* text_of(GaugeHeader* g, int k) { return Host::element(g, 0)->children[k + 1]->u.str.text; }
+const char* text_of(GaugeHeader* g, int k) {
+    return Host::element(g, 0)->children[k + 1]->u.str.text;
+}
 
 TEST_F(Frame, DiagnosticLinesShowTokensThenStateWhileFlagged) {
     GaugeHeader* g = host.gauge("testgauge2k");
@@ -214,12 +216,15 @@ TEST_F(Frame, OtherServiceIdsChangeNothing) {
     std::vector<u8> before(static_cast<u8*>(t->state), static_cast<u8*>(t->state) + t->state_size);
     std::vector<u32> flags;
     for (int i = 0; i < host.gauge_count(); ++i)
-        for (int k = 0; Host::element(host.gauge(i), k); ++k) flags.push_back(Host::element(host.gauge(i), k)->flags);
+        for (int k = 0; Host::element(host.gauge(i), k); ++k)
+            flags.push_back(Host::element(host.gauge(i), k)->flags);
     for (int i = 0; i < host.gauge_count(); ++i) {
         GaugeHeader* g = host.gauge(i);
-        if (!g->callback) continue;
+        if (!g->callback)
+            continue;
         for (u32 s = 0; s < 32; ++s)
-            if (s != 2 && s != 6 && s != 12) g->callback(g, s, 0xDEADBEEF);
+            if (s != 2 && s != 6 && s != 12)
+                g->callback(g, s, 0xDEADBEEF);
     }
     EXPECT_EQ(std::memcmp(before.data(), t->state, t->state_size), 0);
     std::size_t at = 0;
@@ -243,7 +248,8 @@ TEST(FrameUnloaded, HostCallsBeforeTheServiceTableDoNothing) {
     g->draw();
     g->kill();
     for (int i = 0; linkage->gauges[i]; ++i)
-        if (linkage->gauges[i]->callback) linkage->gauges[i]->callback(linkage->gauges[i], 6, 0);
+        if (linkage->gauges[i]->callback)
+            linkage->gauges[i]->callback(linkage->gauges[i], 6, 0);
     Element* line = g->elements[0]->children[1];
     EXPECT_EQ(line->u.str.callback(line), 0.0);
     EXPECT_STREQ(line->u.str.text, "0.0000");

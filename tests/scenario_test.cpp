@@ -1,12 +1,12 @@
 // The scenario runner: parsing, checks, output and exit status.
+#include "host/scenario.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <regex>
 #include <sstream>
-
-#include "host/scenario.h"
 
 namespace {
 
@@ -199,7 +199,9 @@ TEST_F(Scenario, SoundChecksNameWhatHappened) {
                    "expect sound \"HI\" idle\n");
     auto [status, out] = run({f});
     EXPECT_EQ(status, 1);
-    EXPECT_NE(out.find(":3: expected sound \"CLICK\" silent, got 1 played, 0 looping, 0 stopped"), std::string::npos) << out;
+    EXPECT_NE(out.find(":3: expected sound \"CLICK\" silent, got 1 played, 0 looping, 0 stopped"),
+              std::string::npos)
+        << out;
     EXPECT_NE(out.find(":4: expected sound \"HI\" looping, got only played once"), std::string::npos) << out;
     EXPECT_NE(out.find(":5: expected sound \"LO\" played, got not played"), std::string::npos) << out;
     EXPECT_NE(out.find(":6: expected sound \"CLICK\" played count 2, got 1"), std::string::npos) << out;
@@ -222,7 +224,8 @@ TEST_F(Scenario, BundledBadScriptsAreRejected) {
     std::filesystem::path bad = std::filesystem::path(KESTRANE_SOURCE_DIR) / "tests" / "bad";
     int n = 0;
     for (const auto& entry : std::filesystem::directory_iterator(bad)) {
-        if (entry.path().extension() != ".scn") continue;
+        if (entry.path().extension() != ".scn")
+            continue;
         ++n;
         std::ifstream in(entry.path());
         std::stringstream text;

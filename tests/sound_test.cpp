@@ -28,15 +28,24 @@ struct Expected {
 };
 
 const Expected kTable[] = {
-    {"CLICK", 1, 22050, 16, 3828, -2000},        {"HI", 1, 22050, 16, 40024, -2600},
-    {"LO", 1, 22050, 16, 38458, -2600},          {"GONGMONO", 1, 22050, 16, 43878, -1500},
-    {"KLAXONCONT", 1, 22050, 16, 43928, -800},   {"SONNERIE", 1, 22050, 16, 49430, -1500},
-    {"BRAKESSND", 1, 22050, 8, 68608, -1500},    {"CRECELLE", 1, 22050, 16, 107626, -1500},
-    {"KLAXONGEAR", 1, 22050, 16, 56760, -1500},  {"CACHEMETAL", 1, 44100, 16, 4896, -1000},
-    {"V80KTS", 1, 11025, 8, 11136, -1000},       {"V1KTS", 1, 11025, 8, 12864, -1000},
-    {"VRKTS", 1, 11025, 8, 12544, -1000},        {"AIRCOND", 2, 44100, 16, 531504, -1000},
-    {"AIRCONDENT", 2, 44100, 16, 1132524, -1000}, {"AIRCONDSORT", 2, 44100, 16, 882688, -1000},
-    {"GPWSGLIDESLOPE", 1, 11025, 8, 15124, -1000}, {"GPWSPULLUP", 1, 11025, 8, 17273, -1000},
+    {"CLICK", 1, 22050, 16, 3828, -2000},
+    {"HI", 1, 22050, 16, 40024, -2600},
+    {"LO", 1, 22050, 16, 38458, -2600},
+    {"GONGMONO", 1, 22050, 16, 43878, -1500},
+    {"KLAXONCONT", 1, 22050, 16, 43928, -800},
+    {"SONNERIE", 1, 22050, 16, 49430, -1500},
+    {"BRAKESSND", 1, 22050, 8, 68608, -1500},
+    {"CRECELLE", 1, 22050, 16, 107626, -1500},
+    {"KLAXONGEAR", 1, 22050, 16, 56760, -1500},
+    {"CACHEMETAL", 1, 44100, 16, 4896, -1000},
+    {"V80KTS", 1, 11025, 8, 11136, -1000},
+    {"V1KTS", 1, 11025, 8, 12864, -1000},
+    {"VRKTS", 1, 11025, 8, 12544, -1000},
+    {"AIRCOND", 2, 44100, 16, 531504, -1000},
+    {"AIRCONDENT", 2, 44100, 16, 1132524, -1000},
+    {"AIRCONDSORT", 2, 44100, 16, 882688, -1000},
+    {"GPWSGLIDESLOPE", 1, 11025, 8, 15124, -1000},
+    {"GPWSPULLUP", 1, 11025, 8, 17273, -1000},
     {"ALTRE", 1, 11025, 8, 2866, -1000},
 };
 
@@ -62,8 +71,12 @@ std::vector<std::string> chunk_ids(const std::vector<u8>& f) {
     return ids;
 }
 
-u16 le16(const u8* p) { return static_cast<u16>(p[0] | p[1] << 8); }
-u32 le32(const u8* p) { return static_cast<u32>(p[0] | p[1] << 8 | p[2] << 16 | p[3] << 24); }
+u16 le16(const u8* p) {
+    return static_cast<u16>(p[0] | p[1] << 8);
+}
+u32 le32(const u8* p) {
+    return static_cast<u32>(p[0] | p[1] << 8 | p[2] << 16 | p[3] << 24);
+}
 
 TEST(GeneratedWaves, MatchTheSoundTable) {
     for (const Expected& e : kTable) {
@@ -85,7 +98,8 @@ TEST(GeneratedWaves, MatchTheSoundTable) {
         // not silence
         int loud = 0;
         const u8 zero = e.bits == 8 ? 128 : 0;
-        for (u32 i = 0; i < w.data_size; ++i) loud += w.data[i] != zero;
+        for (u32 i = 0; i < w.data_size; ++i)
+            loud += w.data[i] != zero;
         EXPECT_GT(loud, static_cast<int>(w.data_size / 10));
     }
 }
@@ -108,19 +122,24 @@ struct Riff {
     Riff& chunk(const char* id, std::vector<u8> body, bool pad = true) {
         b.insert(b.end(), id, id + 4);
         u32 n = static_cast<u32>(body.size());
-        for (int i = 0; i < 4; ++i) b.push_back(static_cast<u8>(n >> (8 * i)));
+        for (int i = 0; i < 4; ++i)
+            b.push_back(static_cast<u8>(n >> (8 * i)));
         b.insert(b.end(), body.begin(), body.end());
-        if (pad && (n & 1)) b.push_back(0);
+        if (pad && (n & 1))
+            b.push_back(0);
         return *this;
     }
     std::vector<u8> done(long adjust = 0) {
         u32 n = static_cast<u32>(static_cast<long>(b.size()) - 8 + adjust);
-        for (int i = 0; i < 4; ++i) b[4 + i] = static_cast<u8>(n >> (8 * i));
+        for (int i = 0; i < 4; ++i)
+            b[4 + i] = static_cast<u8>(n >> (8 * i));
         return b;
     }
 };
 
-std::vector<u8> fmt16() { return {1, 0, 1, 0, 0x22, 0x56, 0, 0, 0x44, 0xAC, 0, 0, 2, 0, 16, 0}; }
+std::vector<u8> fmt16() {
+    return {1, 0, 1, 0, 0x22, 0x56, 0, 0, 0x44, 0xAC, 0, 0, 2, 0, 16, 0};
+}
 
 TEST(WaveParser, FindsFormatAndDataInEitherOrder) {
     WaveView w;
@@ -137,7 +156,12 @@ TEST(WaveParser, FindsFormatAndDataInEitherOrder) {
 
 TEST(WaveParser, SkipsOtherChunksWithTheirPadByte) {
     WaveView w;
-    auto a = Riff().chunk("LIST", {1, 2, 3}).chunk("fmt ", fmt16()).chunk("smpl", {7}).chunk("data", {5, 6, 7}).done();
+    auto a = Riff()
+                 .chunk("LIST", {1, 2, 3})
+                 .chunk("fmt ", fmt16())
+                 .chunk("smpl", {7})
+                 .chunk("data", {5, 6, 7})
+                 .done();
     ASSERT_TRUE(parse_wave(a.data(), a.size(), w));
     EXPECT_EQ(w.data_size, 3u);
     EXPECT_EQ(w.data[0], 5);
@@ -148,12 +172,18 @@ TEST(WaveParser, SkipsOtherChunksWithTheirPadByte) {
 
 TEST(WaveParser, ShortFormatFailsEvenAfterData) {
     WaveView w;
-    auto a = Riff().chunk("data", {1, 2}).chunk("fmt ", {1, 0, 1, 0, 0x22, 0x56, 0, 0, 0x44, 0xAC, 0, 0, 2}).done();
+    auto a = Riff()
+                 .chunk("data", {1, 2})
+                 .chunk("fmt ", {1, 0, 1, 0, 0x22, 0x56, 0, 0, 0x44, 0xAC, 0, 0, 2})
+                 .done();
     EXPECT_FALSE(parse_wave(a.data(), a.size(), w));
     EXPECT_EQ(w.data, nullptr);
     EXPECT_EQ(w.format, nullptr);
     // 14 bytes is enough
-    auto b = Riff().chunk("fmt ", {1, 0, 1, 0, 0x22, 0x56, 0, 0, 0x44, 0xAC, 0, 0, 2, 0}).chunk("data", {1}).done();
+    auto b = Riff()
+                 .chunk("fmt ", {1, 0, 1, 0, 0x22, 0x56, 0, 0, 0x44, 0xAC, 0, 0, 2, 0})
+                 .chunk("data", {1})
+                 .done();
     EXPECT_TRUE(parse_wave(b.data(), b.size(), w));
     // a second, short "fmt " after the first is never looked at
     auto c = Riff().chunk("fmt ", fmt16()).chunk("fmt ", {1}).chunk("data", {1, 2}).done();
@@ -191,7 +221,8 @@ TEST(WaveParser, StaysInsideWhatItHolds) {
     EXPECT_FALSE(parse_wave(d.data(), d.size(), w));
     // a huge chunk length does not wrap the walk around
     auto e = Riff().chunk("JUNK", {1, 2}).chunk("fmt ", fmt16()).chunk("data", {1}).done();
-    for (int i = 0; i < 4; ++i) e[16 + i] = 0xFF;
+    for (int i = 0; i < 4; ++i)
+        e[16 + i] = 0xFF;
     EXPECT_FALSE(parse_wave(e.data(), e.size(), w));
 }
 
@@ -236,9 +267,11 @@ TEST_F(Player, InstallLoadsEverySoundInTableOrderWithItsVolume) {
     // volumes were applied once each, in table order, after all the loads
     std::vector<std::string> order;
     for (const SoundEvent& ev : dev().log())
-        if (ev.op == SoundOp::Volume) order.push_back(ev.buffer->name);
+        if (ev.op == SoundOp::Volume)
+            order.push_back(ev.buffer->name);
     ASSERT_EQ(order.size(), 19u);
-    for (std::size_t i = 0; i < 19; ++i) EXPECT_EQ(order[i], kTable[i].name);
+    for (std::size_t i = 0; i < 19; ++i)
+        EXPECT_EQ(order[i], kTable[i].name);
 }
 
 TEST_F(Player, FillCopiesBothPartsOfATwoPartLock) {
@@ -264,10 +297,12 @@ TEST_F(Player, FailedLockOrBufferLosesOnlyThatSound) {
     EXPECT_NE(host.sound("ALTRE"), nullptr);
     // the buffer whose fill failed was released at once
     int released = 0;
-    for (const auto& b : dev().buffers()) released += b->released;
+    for (const auto& b : dev().buffers())
+        released += b->released;
     EXPECT_EQ(released, 1);
     // the lost sounds take no volume
-    for (const SoundEvent& ev : dev().log()) EXPECT_TRUE(ev.op != SoundOp::Volume || !ev.buffer->released);
+    for (const SoundEvent& ev : dev().log())
+        EXPECT_TRUE(ev.op != SoundOp::Volume || !ev.buffer->released);
 }
 
 TEST_F(Player, NoDeviceMeansSilenceAndNoCrash) {
@@ -294,9 +329,11 @@ TEST_F(Player, RemovalReleasesInReverseOrderThenTheDevice) {
         order.push_back(ev.buffer->name);
     }
     ASSERT_EQ(order.size(), 19u);
-    for (std::size_t i = 0; i < 19; ++i) EXPECT_EQ(order[i], kTable[18 - i].name);
+    for (std::size_t i = 0; i < 19; ++i)
+        EXPECT_EQ(order[i], kTable[18 - i].name);
     EXPECT_TRUE(dev().released());
-    for (int i = 0; i < 19; ++i) EXPECT_EQ(host.sound(kTable[i].name), nullptr);
+    for (int i = 0; i < 19; ++i)
+        EXPECT_EQ(host.sound(kTable[i].name), nullptr);
     // installing again starts afresh
     host.install(toggle);
     EXPECT_EQ(dev().buffers().size(), 38u);
@@ -330,7 +367,8 @@ TEST_F(Player, LoopingEveryCycleIsOneContinuousLoop) {
 }
 
 TEST(Recording, MixesWhatPlays) {
-    auto path = std::filesystem::temp_directory_path() / ("kestrane-rec-" + std::to_string(::getpid()) + ".wav");
+    auto path =
+        std::filesystem::temp_directory_path() / ("kestrane-rec-" + std::to_string(::getpid()) + ".wav");
     {
         Host host;
         ASSERT_TRUE(host.ok());
@@ -352,11 +390,14 @@ TEST(Recording, MixesWhatPlays) {
     EXPECT_EQ(w.data_size, 15u * 2450 * 4);
     auto sample = [&](std::size_t frame) { return static_cast<i16>(le16(w.data + frame * 4)); };
     int loud = 0;
-    for (std::size_t i = 0; i < 2 * 2450; ++i) loud += sample(i) != 0;
+    for (std::size_t i = 0; i < 2 * 2450; ++i)
+        loud += sample(i) != 0;
     EXPECT_EQ(loud, 0) << "silence before the click";
-    for (std::size_t i = 2 * 2450; i < 12 * 2450; ++i) loud += sample(i) != 0;
+    for (std::size_t i = 2 * 2450; i < 12 * 2450; ++i)
+        loud += sample(i) != 0;
     EXPECT_GT(loud, 2450);
-    for (std::size_t i = 12 * 2450; i < 15 * 2450; ++i) EXPECT_EQ(sample(i), 0);
+    for (std::size_t i = 12 * 2450; i < 15 * 2450; ++i)
+        EXPECT_EQ(sample(i), 0);
 }
 
 // ---------------------------------------------------------------- file fallback
@@ -364,8 +405,8 @@ TEST(Recording, MixesWhatPlays) {
 class Fallback : public ::testing::Test {
 protected:
     std::filesystem::path old_cwd = std::filesystem::current_path();
-    std::filesystem::path dir = std::filesystem::temp_directory_path() /
-                                ("kestrane-fallback-" + std::to_string(::getpid()));
+    std::filesystem::path dir =
+        std::filesystem::temp_directory_path() / ("kestrane-fallback-" + std::to_string(::getpid()));
     void SetUp() override {
         std::filesystem::create_directories(dir);
         std::filesystem::current_path(dir);
@@ -375,8 +416,8 @@ protected:
         std::filesystem::remove_all(dir);
     }
     static void put(const char* name, const std::vector<u8>& bytes) {
-        std::ofstream(name, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()),
-                                                    static_cast<std::streamsize>(bytes.size()));
+        std::ofstream(name, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     }
 };
 
@@ -386,8 +427,8 @@ TEST_F(Fallback, MissingOrCorruptResourcesLoadFromFilesOfTheCurrentFolder) {
     std::vector<u8> hi = wave_file("HI");
     hi[16] = 10;  // "fmt " of 10 bytes
     put("HI", hi);
-    put("GONGMONO", {});                                  // empty file
-    put("KLAXONCONT", {'R', 'I', 'F', 'F', 1, 2});        // truncated
+    put("GONGMONO", {});                            // empty file
+    put("KLAXONCONT", {'R', 'I', 'F', 'F', 1, 2});  // truncated
     std::vector<u8> sonnerie = wave_file("SONNERIE");
     sonnerie.resize(sonnerie.size() / 2);  // data chunk cut short
     put("SONNERIE", sonnerie);

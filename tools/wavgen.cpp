@@ -4,6 +4,8 @@
 // Every file has exactly the format and data length the player expects.
 //
 //   wavgen OUTDIR [--no-speech]
+#include <unistd.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -14,7 +16,6 @@
 #include <functional>
 #include <iterator>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -40,15 +41,24 @@ struct SoundDef {
 };
 
 constexpr SoundDef kSounds[] = {
-    {"CLICK", {1, 22050, 16}, 3828},        {"HI", {1, 22050, 16}, 40024},
-    {"LO", {1, 22050, 16}, 38458},          {"GONGMONO", {1, 22050, 16}, 43878},
-    {"KLAXONCONT", {1, 22050, 16}, 43928},  {"SONNERIE", {1, 22050, 16}, 49430},
-    {"BRAKESSND", {1, 22050, 8}, 68608},    {"CRECELLE", {1, 22050, 16}, 107626},
-    {"KLAXONGEAR", {1, 22050, 16}, 56760},  {"CACHEMETAL", {1, 44100, 16}, 4896},
-    {"V80KTS", {1, 11025, 8}, 11136},       {"V1KTS", {1, 11025, 8}, 12864},
-    {"VRKTS", {1, 11025, 8}, 12544},        {"AIRCOND", {2, 44100, 16}, 531504},
-    {"AIRCONDENT", {2, 44100, 16}, 1132524}, {"AIRCONDSORT", {2, 44100, 16}, 882688},
-    {"GPWSGLIDESLOPE", {1, 11025, 8}, 15124}, {"GPWSPULLUP", {1, 11025, 8}, 17273},
+    {"CLICK", {1, 22050, 16}, 3828},
+    {"HI", {1, 22050, 16}, 40024},
+    {"LO", {1, 22050, 16}, 38458},
+    {"GONGMONO", {1, 22050, 16}, 43878},
+    {"KLAXONCONT", {1, 22050, 16}, 43928},
+    {"SONNERIE", {1, 22050, 16}, 49430},
+    {"BRAKESSND", {1, 22050, 8}, 68608},
+    {"CRECELLE", {1, 22050, 16}, 107626},
+    {"KLAXONGEAR", {1, 22050, 16}, 56760},
+    {"CACHEMETAL", {1, 44100, 16}, 4896},
+    {"V80KTS", {1, 11025, 8}, 11136},
+    {"V1KTS", {1, 11025, 8}, 12864},
+    {"VRKTS", {1, 11025, 8}, 12544},
+    {"AIRCOND", {2, 44100, 16}, 531504},
+    {"AIRCONDENT", {2, 44100, 16}, 1132524},
+    {"AIRCONDSORT", {2, 44100, 16}, 882688},
+    {"GPWSGLIDESLOPE", {1, 11025, 8}, 15124},
+    {"GPWSPULLUP", {1, 11025, 8}, 17273},
     {"ALTRE", {1, 11025, 8}, 2866},
 };
 
@@ -89,7 +99,9 @@ struct Resonator {
 
 using Channels = std::vector<std::vector<double>>;
 
-Channels mono(std::size_t n) { return Channels(1, std::vector<double>(n, 0.0)); }
+Channels mono(std::size_t n) {
+    return Channels(1, std::vector<double>(n, 0.0));
+}
 
 // A frequency that completes whole cycles over a loop of n samples.
 double loop_freq(double f, std::size_t n, int rate) {
@@ -113,14 +125,18 @@ void crossfade_loop(std::vector<double>& v, std::size_t fade) {
 void normalize(Channels& c, double peak) {
     double m = 1e-9;
     for (auto& ch : c)
-        for (double x : ch) m = std::max(m, std::fabs(x));
+        for (double x : ch)
+            m = std::max(m, std::fabs(x));
     for (auto& ch : c)
-        for (double& x : ch) x *= peak / m;
+        for (double& x : ch)
+            x *= peak / m;
 }
 
 void fade_edges(std::vector<double>& v, std::size_t in, std::size_t out) {
-    for (std::size_t i = 0; i < in && i < v.size(); ++i) v[i] *= static_cast<double>(i) / in;
-    for (std::size_t i = 0; i < out && i < v.size(); ++i) v[v.size() - 1 - i] *= static_cast<double>(i) / out;
+    for (std::size_t i = 0; i < in && i < v.size(); ++i)
+        v[i] *= static_cast<double>(i) / in;
+    for (std::size_t i = 0; i < out && i < v.size(); ++i)
+        v[v.size() - 1 - i] *= static_cast<double>(i) / out;
 }
 
 // ---------------------------------------------------------------- sounds
@@ -151,7 +167,8 @@ Channels cachemetal(std::size_t n, int rate) {
     for (std::size_t i = 0; i < n; ++i) {
         double t = static_cast<double>(i) / rate;
         double x = noise.next() * std::exp(-t / 0.0008) * 0.8;
-        for (int k = 0; k < 5; ++k) x += std::sin(2 * kPi * partials[k] * t + k) * std::exp(-t / decays[k]) / (1 + 0.4 * k);
+        for (int k = 0; k < 5; ++k)
+            x += std::sin(2 * kPi * partials[k] * t + k) * std::exp(-t / decays[k]) / (1 + 0.4 * k);
         c[0][i] = x;
     }
     normalize(c, 0.8);
@@ -225,7 +242,8 @@ Channels bell(std::size_t n, int rate) {
         for (int k = -4; k < strikes; ++k) {
             // strikes before the start are the last ones of the previous turn
             double pos = static_cast<double>(i) - k * interval;
-            if (pos < 0) continue;
+            if (pos < 0)
+                continue;
             double t = pos / rate;
             for (int p = 0; p < 4; ++p)
                 x += std::sin(2 * kPi * partials[p] * t + p) * std::exp(-t / (0.09 / (1 + p))) / (1 + p);
@@ -245,7 +263,8 @@ Channels rattle(std::size_t n, int rate) {
     std::vector<double> excite(n, 0.0);
     for (int k = 0; k < clacks; ++k) {
         std::size_t at = static_cast<std::size_t>(k * interval);
-        for (std::size_t j = 0; j < 90 && at + j < n; ++j) excite[at + j] = noise.next() * std::exp(-static_cast<double>(j) / 18);
+        for (std::size_t j = 0; j < 90 && at + j < n; ++j)
+            excite[at + j] = noise.next() * std::exp(-static_cast<double>(j) / 18);
     }
     for (int pass = 0; pass < 2; ++pass)  // second pass carries the ringing across the seam
         for (std::size_t i = 0; i < n; ++i) {
@@ -309,7 +328,8 @@ Channels aircond(std::size_t n, int rate, const std::function<double(double)>& l
 bool read_wave16(const std::string& path, std::vector<double>& out, int& rate) {
     std::ifstream in(path, std::ios::binary);
     std::vector<std::uint8_t> b((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (b.size() < 44 || std::memcmp(b.data(), "RIFF", 4) != 0) return false;
+    if (b.size() < 44 || std::memcmp(b.data(), "RIFF", 4) != 0)
+        return false;
     std::size_t pos = 12;
     int channels = 1, bits = 16;
     rate = 22050;
@@ -326,10 +346,12 @@ bool read_wave16(const std::string& path, std::vector<double>& out, int& rate) {
             rate = static_cast<int>(r);
             bits = bt;
         } else if (std::memcmp(&b[pos], "data", 4) == 0) {
-            if (bits != 16 || channels != 1) return false;
+            if (bits != 16 || channels != 1)
+                return false;
             std::size_t len = std::min<std::size_t>(n, b.size() - pos - 8);
             // espeak-ng streams to a file and may leave the length unset
-            if (n == 0 || n == 0xFFFFFFFFu) len = b.size() - pos - 8;
+            if (n == 0 || n == 0xFFFFFFFFu)
+                len = b.size() - pos - 8;
             out.resize(len / 2);
             for (std::size_t i = 0; i < out.size(); ++i) {
                 std::int16_t s;
@@ -344,11 +366,13 @@ bool read_wave16(const std::string& path, std::vector<double>& out, int& rate) {
 }
 
 std::vector<double> resample(const std::vector<double>& in, int from, int to) {
-    if (from == to) return in;
+    if (from == to)
+        return in;
     // low-pass at the new Nyquist, then linear interpolation
     std::vector<double> filtered(in.size());
     OnePole a(to * 0.42, from), b(to * 0.42, from);
-    for (std::size_t i = 0; i < in.size(); ++i) filtered[i] = b(a(in[i]));
+    for (std::size_t i = 0; i < in.size(); ++i)
+        filtered[i] = b(a(in[i]));
     std::size_t n = static_cast<std::size_t>(static_cast<double>(in.size()) * to / from);
     std::vector<double> out(n);
     for (std::size_t i = 0; i < n; ++i) {
@@ -372,27 +396,33 @@ void trim_silence(std::vector<double>& v) {
     v = std::vector<double>(first, last);
 }
 
-bool have_espeak() { return std::system("espeak-ng --version >/dev/null 2>&1") == 0; }
+bool have_espeak() {
+    return std::system("espeak-ng --version >/dev/null 2>&1") == 0;
+}
 
 // Speaks `text` into exactly n samples at `rate`, faster until it fits.
 bool speak(const char* text, std::size_t n, int rate, std::vector<double>& out) {
     char tmpl[] = "/tmp/kestrane-wavgen-XXXXXX";
     int fd = mkstemp(tmpl);
-    if (fd < 0) return false;
+    if (fd < 0)
+        return false;
     close(fd);
     std::string path = tmpl;
     const std::size_t lead = static_cast<std::size_t>(0.04 * rate);
     bool ok = false;
     for (int speed = 165; speed <= 450 && !ok; speed += 15) {
-        std::string cmd = "espeak-ng -v en-us+m3 -p 38 -s " + std::to_string(speed) + " -w '" + path + "' \"" +
-                          text + "\" >/dev/null 2>&1";
-        if (std::system(cmd.c_str()) != 0) break;
+        std::string cmd = "espeak-ng -v en-us+m3 -p 38 -s " + std::to_string(speed) + " -w '" + path +
+                          "' \"" + text + "\" >/dev/null 2>&1";
+        if (std::system(cmd.c_str()) != 0)
+            break;
         std::vector<double> voice;
         int from = 0;
-        if (!read_wave16(path, voice, from)) break;
+        if (!read_wave16(path, voice, from))
+            break;
         voice = resample(voice, from, rate);
         trim_silence(voice);
-        if (voice.empty() || voice.size() + 2 * lead > n) continue;
+        if (voice.empty() || voice.size() + 2 * lead > n)
+            continue;
         out.assign(n, 0.0);
         std::copy(voice.begin(), voice.end(), out.begin() + lead);
         ok = true;
@@ -422,7 +452,8 @@ std::vector<double> hum_syllables(int syllables, std::size_t n, int rate) {
 Channels voice(const char* text, int syllables, std::size_t n, int rate, bool use_speech) {
     Channels c = mono(n);
     if (!(use_speech && speak(text, n, rate, c[0]))) {
-        if (use_speech) std::fprintf(stderr, "wavgen: espeak-ng failed for \"%s\"; using tones\n", text);
+        if (use_speech)
+            std::fprintf(stderr, "wavgen: espeak-ng failed for \"%s\"; using tones\n", text);
         c[0] = hum_syllables(syllables, n, rate);
     }
     // cockpit loudspeaker: band-limited, a little compressed
@@ -442,16 +473,19 @@ void put16(std::vector<std::uint8_t>& b, std::uint16_t v) {
     b.push_back(v >> 8);
 }
 void put32(std::vector<std::uint8_t>& b, std::uint32_t v) {
-    for (int i = 0; i < 4; ++i) b.push_back((v >> (8 * i)) & 0xFF);
+    for (int i = 0; i < 4; ++i)
+        b.push_back((v >> (8 * i)) & 0xFF);
 }
 void put_text(std::vector<std::uint8_t>& b, const std::string& text) {
-    for (char ch : text) b.push_back(static_cast<std::uint8_t>(ch));
+    for (char ch : text)
+        b.push_back(static_cast<std::uint8_t>(ch));
 }
 void put_chunk(std::vector<std::uint8_t>& file, const Chunk& c) {
     put_text(file, c.id);
     put32(file, static_cast<std::uint32_t>(c.body.size()));
     file.insert(file.end(), c.body.begin(), c.body.end());
-    if (c.body.size() & 1) file.push_back(0);
+    if (c.body.size() & 1)
+        file.push_back(0);
 }
 
 std::vector<std::uint8_t> samples(const Channels& c, const Format& f, std::size_t bytes) {
@@ -479,27 +513,28 @@ Chunk list_info(const char* comment) {
     put_text(c.body, "ISFT");
     put32(c.body, static_cast<std::uint32_t>(text.size()));
     put_text(c.body, text);
-    if (text.size() & 1) c.body.push_back(0);
+    if (text.size() & 1)
+        c.body.push_back(0);
     return c;
 }
 
 Chunk smpl_loop(const Format& f, std::uint32_t frames) {
     Chunk c{"smpl", {}};
-    put32(c.body, 0);                                            // manufacturer
-    put32(c.body, 0);                                            // product
+    put32(c.body, 0);                                                  // manufacturer
+    put32(c.body, 0);                                                  // product
     put32(c.body, static_cast<std::uint32_t>(1000000000.0 / f.rate));  // sample period, ns
-    put32(c.body, 60);                                           // MIDI unity note
-    put32(c.body, 0);                                            // pitch fraction
-    put32(c.body, 0);                                            // SMPTE format
-    put32(c.body, 0);                                            // SMPTE offset
-    put32(c.body, 1);                                            // one loop
-    put32(c.body, 0);                                            // sampler data
-    put32(c.body, 0);                                            // cue id
-    put32(c.body, 0);                                            // forward loop
-    put32(c.body, 0);                                            // start
-    put32(c.body, frames - 1);                                   // end
-    put32(c.body, 0);                                            // fraction
-    put32(c.body, 0);                                            // endless
+    put32(c.body, 60);                                                 // MIDI unity note
+    put32(c.body, 0);                                                  // pitch fraction
+    put32(c.body, 0);                                                  // SMPTE format
+    put32(c.body, 0);                                                  // SMPTE offset
+    put32(c.body, 1);                                                  // one loop
+    put32(c.body, 0);                                                  // sampler data
+    put32(c.body, 0);                                                  // cue id
+    put32(c.body, 0);                                                  // forward loop
+    put32(c.body, 0);                                                  // start
+    put32(c.body, frames - 1);                                         // end
+    put32(c.body, 0);                                                  // fraction
+    put32(c.body, 0);                                                  // endless
     return c;
 }
 
@@ -517,9 +552,11 @@ bool write_wave(const std::string& path, const SoundDef& s, const Channels& c,
     std::vector<std::uint8_t> body;
     put_text(body, "WAVE");
     put_chunk(body, fmt);
-    for (const Chunk& k : before_data) put_chunk(body, k);
+    for (const Chunk& k : before_data)
+        put_chunk(body, k);
     put_chunk(body, Chunk{"data", samples(c, f, s.data_bytes)});
-    for (const Chunk& k : after_data) put_chunk(body, k);
+    for (const Chunk& k : after_data)
+        put_chunk(body, k);
     std::vector<std::uint8_t> file{'R', 'I', 'F', 'F'};
     put32(file, static_cast<std::uint32_t>(body.size()));
     file.insert(file.end(), body.begin(), body.end());
@@ -549,13 +586,20 @@ int main(int argc, char** argv) {
         const std::string name = s.name;
         Channels c;
         std::vector<Chunk> before, after;
-        if (name == "CLICK") c = click(frames, r);
-        else if (name == "HI") c = chime(frames, r, 1318.5);
-        else if (name == "LO") c = chime(frames, r, 659.3);
-        else if (name == "GONGMONO") c = gong(frames, r);
-        else if (name == "KLAXONCONT") c = klaxon(frames - 1, r, 440, 554);
-        else if (name == "SONNERIE") c = bell(frames - 1, r);
-        else if (name == "BRAKESSND") c = brakes(frames - 1, r);
+        if (name == "CLICK")
+            c = click(frames, r);
+        else if (name == "HI")
+            c = chime(frames, r, 1318.5);
+        else if (name == "LO")
+            c = chime(frames, r, 659.3);
+        else if (name == "GONGMONO")
+            c = gong(frames, r);
+        else if (name == "KLAXONCONT")
+            c = klaxon(frames - 1, r, 440, 554);
+        else if (name == "SONNERIE")
+            c = bell(frames - 1, r);
+        else if (name == "BRAKESSND")
+            c = brakes(frames - 1, r);
         else if (name == "CRECELLE") {
             c = rattle(frames - 1, r);
             before.push_back(list_info("kestrane overspeed rattle"));
@@ -565,22 +609,30 @@ int main(int argc, char** argv) {
         } else if (name == "CACHEMETAL") {
             c = cachemetal(frames, r);
             before.push_back(list_info("kestrane guard"));
-        } else if (name == "V80KTS") c = voice("eighty knots", 3, frames, r, use_speech);
-        else if (name == "V1KTS") c = voice("vee one", 2, frames, r, use_speech);
-        else if (name == "VRKTS") c = voice("rotate", 2, frames, r, use_speech);
-        else if (name == "GPWSGLIDESLOPE") c = voice("glide slope", 2, frames, r, use_speech);
-        else if (name == "GPWSPULLUP") c = voice("whoop whoop, pull up", 4, frames, r, use_speech);
+        } else if (name == "V80KTS")
+            c = voice("eighty knots", 3, frames, r, use_speech);
+        else if (name == "V1KTS")
+            c = voice("vee one", 2, frames, r, use_speech);
+        else if (name == "VRKTS")
+            c = voice("rotate", 2, frames, r, use_speech);
+        else if (name == "GPWSGLIDESLOPE")
+            c = voice("glide slope", 2, frames, r, use_speech);
+        else if (name == "GPWSPULLUP")
+            c = voice("whoop whoop, pull up", 4, frames, r, use_speech);
         else if (name == "ALTRE") {
             c = chime(frames, r, 880);
             fade_edges(c[0], 0, frames / 3);
         } else if (name == "AIRCOND") {
-            c = aircond(frames - 1, r, [](double) { return 1.0; }, true);
+            c = aircond(
+                frames - 1, r, [](double) { return 1.0; }, true);
             normalize(c, 0.5);
         } else if (name == "AIRCONDENT") {
-            c = aircond(frames, r, [](double u) { return std::pow(u, 0.7); }, false);
+            c = aircond(
+                frames, r, [](double u) { return std::pow(u, 0.7); }, false);
             normalize(c, 0.5);
         } else if (name == "AIRCONDSORT") {
-            c = aircond(frames, r, [](double u) { return std::pow(1 - u, 1.6); }, false);
+            c = aircond(
+                frames, r, [](double u) { return std::pow(1 - u, 1.6); }, false);
             normalize(c, 0.5);
         }
         std::string path = dir + "/" + name + ".wav";

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(warn_elec,
-    gauge("kestrane warn_elec_jm47", 83, update)
-        .elements(image(24688, 0x4001)))  // e0
+KESTRANE_GAUGE(warn_elec, gauge("kestrane warn_elec_jm47", 83, update).elements(image(24688, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(warn_lhfuelpress,
-    gauge("kestrane warn_lhfuelpress_jm47", 76, update)
-        .elements(image(24656, 0x4001)))  // e0
+               gauge("kestrane warn_lhfuelpress_jm47", 76, update).elements(image(24656, 0x4001)))  // e0

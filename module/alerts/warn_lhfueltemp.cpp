@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(warn_lhfueltemp,
-    gauge("kestrane warn_lhfueltemp_jm47", 82, update)
-        .elements(image(24624, 0x4001)))  // e0
+               gauge("kestrane warn_lhfueltemp_jm47", 82, update).elements(image(24624, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(warn_rhengfire,
-    gauge("kestrane warn_rhengfire_jm47", 83, update)
-        .elements(image(22896, 0x4001)))  // e0
+               gauge("kestrane warn_rhengfire_jm47", 83, update).elements(image(22896, 0x4001)))  // e0

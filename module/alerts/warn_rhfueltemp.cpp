@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(warn_rhfueltemp,
-    gauge("kestrane warn_rhfueltemp_jm47", 87, update)
-        .elements(image(24640, 0x4001)))  // e0
+               gauge("kestrane warn_rhfueltemp_jm47", 87, update).elements(image(24640, 0x4001)))  // e0

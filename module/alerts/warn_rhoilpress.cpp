@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(warn_rhoilpress,
-    gauge("kestrane warn_rhoilpress_jm47", 80, update)
-        .elements(image(22864, 0x4001)))  // e0
+               gauge("kestrane warn_rhoilpress_jm47", 80, update).elements(image(22864, 0x4001)))  // e0

@@ -7,7 +7,8 @@ using namespace kestrane;
 ModuleVar stall_warning = token(67);
 
 void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
-    if (service != kServiceUpdate) return;
+    if (service != kServiceUpdate)
+        return;
     ac.warn_stall_lit = is_on(host::read(stall_warning)) && ac.elec_gen_bus == 1;
     const bool sounding = ac.warn_stall_lit && ac.elec_gen_bus == 1;
     if (sounding)
@@ -18,6 +19,5 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
 }
 }  // namespace
 
-KESTRANE_GAUGE(warn_stall,
-    gauge("kestrane warn_stall_jm47", 80, update)
-        .elements(image(22816, 0x40000003)))  // e0 the light
+KESTRANE_GAUGE(warn_stall, gauge("kestrane warn_stall_jm47", 80, update)
+                               .elements(image(22816, 0x40000003)))  // e0 the light

@@ -10,17 +10,22 @@ namespace kestrane {
 
 template <class T>
 constexpr T trunc_to(f64 v) {
-    if (!(v == v)) return T{0};
+    if (!(v == v))
+        return T{0};
     if constexpr (std::numeric_limits<T>::is_integer) {
         constexpr f64 lo = static_cast<f64>(std::numeric_limits<T>::min());
         constexpr f64 hi = static_cast<f64>(std::numeric_limits<T>::max());
-        if (v <= lo) return std::numeric_limits<T>::min();
-        if (v >= hi) return std::numeric_limits<T>::max();
+        if (v <= lo)
+            return std::numeric_limits<T>::min();
+        if (v >= hi)
+            return std::numeric_limits<T>::max();
         return static_cast<T>(v);
     } else {
         constexpr f64 hi = static_cast<f64>(std::numeric_limits<T>::max());
-        if (v > hi) return std::numeric_limits<T>::max();
-        if (v < -hi) return std::numeric_limits<T>::lowest();
+        if (v > hi)
+            return std::numeric_limits<T>::max();
+        if (v < -hi)
+            return std::numeric_limits<T>::lowest();
         return static_cast<T>(v);
     }
 }

@@ -7,9 +7,9 @@
 
 #if defined(_WIN32)
 
-#include <windows.h>
-#include <mmsystem.h>
 #include <dsound.h>
+#include <mmsystem.h>
+#include <windows.h>
 
 #define KESTRANE_HAS_DIRECTSOUND_CREATE() true
 
@@ -90,8 +90,7 @@ struct IDirectSound8Vtbl {
     HRESULT (*QueryInterface)(IDirectSound8*, const GUID*, void**);
     DWORD (*AddRef)(IDirectSound8*);
     DWORD (*Release)(IDirectSound8*);
-    HRESULT (*CreateSoundBuffer)(IDirectSound8*, const DSBUFFERDESC*, IDirectSoundBuffer**,
-                                 LPUNKNOWN);
+    HRESULT (*CreateSoundBuffer)(IDirectSound8*, const DSBUFFERDESC*, IDirectSoundBuffer**, LPUNKNOWN);
     HRESULT (*GetCaps)(IDirectSound8*, void*);
     HRESULT (*DuplicateSoundBuffer)(IDirectSound8*, IDirectSoundBuffer*, IDirectSoundBuffer**);
     HRESULT (*SetCooperativeLevel)(IDirectSound8*, HWND, DWORD);
@@ -146,6 +145,8 @@ extern "C" HRESULT DirectSoundCreate8(const GUID* device, IDirectSound8** out, L
 
 #define KESTRANE_HAS_DIRECTSOUND_CREATE() (&DirectSoundCreate8 != nullptr)
 
-inline HWND GetActiveWindow() { return nullptr; }
+inline HWND GetActiveWindow() {
+    return nullptr;
+}
 
 #endif

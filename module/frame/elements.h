@@ -7,9 +7,11 @@
 namespace kestrane {
 
 inline Element* element(GaugeHeader* gauge, int n) {
-    if (gauge == nullptr || gauge->elements == nullptr) return nullptr;
+    if (gauge == nullptr || gauge->elements == nullptr)
+        return nullptr;
     Element* e = gauge->elements[0];
-    for (int i = 0; i < n && e != nullptr; ++i) e = e->children ? e->children[0] : nullptr;
+    for (int i = 0; i < n && e != nullptr; ++i)
+        e = e->children ? e->children[0] : nullptr;
     return e;
 }
 

@@ -14,7 +14,8 @@ namespace kestrane {
 // Moves a switch: a real change plays CLICK once; asking for the position it
 // already has does nothing. Returns whether it moved.
 inline bool set_switch(u8& field, u8 position) {
-    if (field == position) return false;
+    if (field == position)
+        return false;
     field = position;
     sound::click();
     return true;
@@ -30,7 +31,8 @@ inline void spring_press(u8& counter) {
         counter = static_cast<u8>(counter + 2);
 }
 inline void spring_release(u8& counter) {
-    if (counter > 0) --counter;
+    if (counter > 0)
+        --counter;
 }
 
 // Guarded switch, upper area: the first click opens the guard; then a switch
@@ -65,14 +67,18 @@ constexpr ModuleVar token(u32 id) {
 }
 
 // Host flags are compared with the exact doubles 1.0 and 0.0.
-inline bool is_on(f64 v) { return v == 1.0; }
+inline bool is_on(f64 v) {
+    return v == 1.0;
+}
 
 // Clamps a needle's field to the dial, stores it back and returns it.
 template <class T>
 f64 clamp_back(T& field, f64 lo, f64 hi) {
     f64 v = static_cast<f64>(field);
-    if (!(v >= lo)) v = lo;
-    if (v > hi) v = hi;
+    if (!(v >= lo))
+        v = lo;
+    if (v > hi)
+        v = hi;
     field = static_cast<T>(v);
     return v;
 }

@@ -215,7 +215,7 @@ struct ModuleLinkage {
     ModuleEntry deinit;
     u32 flags;
     u32 priority;
-    u32 version;  // 0x900
+    u32 version;               // 0x900
     GaugeHeader* gauges[220];  // 219 headers, then null
 };
 
@@ -228,8 +228,7 @@ struct HostServices {
     u32(KCALL* register_named_variable)(const char* name);
     f64(KCALL* get_named_variable_value)(u32 id);
     void(KCALL* set_named_variable_value)(u32 id, f64 value);
-    u32(KCALL* execute_calculator_code)(const char* code, f64* result, i32* iresult,
-                                        const char** sresult);
+    u32(KCALL* execute_calculator_code)(const char* code, f64* result, i32* iresult, const char** sresult);
     void(KCALL* element_list_query)(Element* e);
     void(KCALL* element_list_install)(Element* e, std::uintptr_t arg);
     void(KCALL* element_list_initialize)(Element* e);

@@ -68,9 +68,8 @@ constexpr ElementSpec icon(u32 bitmap, i32 x, i32 y, u32 flags) {
 }
 
 template <std::size_t N>
-constexpr ElementSpec needle(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32 flags,
-                             ValueCallback cb, NeedlePoint (&table)[N], u32 rate = 0,
-                             u32 token = 0) {
+constexpr ElementSpec needle(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32 flags, ValueCallback cb,
+                             NeedlePoint (&table)[N], u32 rate = 0, u32 token = 0) {
     ElementSpec s{base(kNeedle, bitmap, x, y, flags)};
     s.e.ref_x = ref_x;
     s.e.ref_y = ref_y;
@@ -79,17 +78,16 @@ constexpr ElementSpec needle(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32
     return s;
 }
 
-constexpr ElementSpec moving(u32 bitmap, i32 x, i32 y, u32 flags, ValueCallback cb_x,
-                             ValueCallback cb_y, f64 min_x, f64 max_x, f64 min_y, f64 max_y) {
+constexpr ElementSpec moving(u32 bitmap, i32 x, i32 y, u32 flags, ValueCallback cb_x, ValueCallback cb_y,
+                             f64 min_x, f64 max_x, f64 min_y, f64 max_y) {
     ElementSpec s{base(kMovingImage, bitmap, x, y, flags)};
     s.e.u.moving = MovingData{cb_x, cb_y, min_x, max_x, min_y, max_y};
     return s;
 }
 
-constexpr ElementSpec sprite(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32 flags,
-                             i32 texture_cx, i32 texture_cy, ValueCallback cb_x,
-                             ValueCallback cb_y, ValueCallback cb_rot, f32 scale_x = 1.0f,
-                             f32 scale_y = 1.0f) {
+constexpr ElementSpec sprite(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32 flags, i32 texture_cx,
+                             i32 texture_cy, ValueCallback cb_x, ValueCallback cb_y, ValueCallback cb_rot,
+                             f32 scale_x = 1.0f, f32 scale_y = 1.0f) {
     ElementSpec s{base(kSprite, bitmap, x, y, flags)};
     s.e.ref_x = ref_x;
     s.e.ref_y = ref_y;
@@ -97,8 +95,8 @@ constexpr ElementSpec sprite(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32
     return s;
 }
 
-constexpr ElementSpec slider(u32 bitmap, i32 x, i32 y, u32 flags, u32 token_x, u32 token_y,
-                             f64 scale_x, f64 scale_y, ValueCallback cb_x, ValueCallback cb_y) {
+constexpr ElementSpec slider(u32 bitmap, i32 x, i32 y, u32 flags, u32 token_x, u32 token_y, f64 scale_x,
+                             f64 scale_y, ValueCallback cb_x, ValueCallback cb_y) {
     ElementSpec s{base(kSlider, bitmap, x, y, flags)};
     s.e.u.slider = SliderData{{}, {}, scale_x, scale_y, cb_x, cb_y};
     s.e.u.slider.source_x.id = token_x;
@@ -111,11 +109,11 @@ struct TextStyle {
 };
 
 // String element: Courier New, weight 400, character set 1, centred on one line.
-constexpr ElementSpec text(i32 x, i32 y, i32 w, i32 h, u32 chars, TextStyle c, u32 token,
-                           ValueCallback cb, u32 flags = 0x6) {
+constexpr ElementSpec text(i32 x, i32 y, i32 w, i32 h, u32 chars, TextStyle c, u32 token, ValueCallback cb,
+                           u32 flags = 0x6) {
     ElementSpec s{base(kString, kNoBitmap, x, y, flags)};
-    s.e.u.str = StringData{{}, w, h, chars, c.fg, c.bg, c.highlight, "Courier New", 400, 1,
-                           0x25, cb, nullptr};
+    s.e.u.str =
+        StringData{{}, w, h, chars, c.fg, c.bg, c.highlight, "Courier New", 400, 1, 0x25, cb, nullptr};
     s.e.u.str.source.id = token;
     return s;
 }
@@ -164,7 +162,8 @@ struct GaugeSpec {
 
     constexpr int n_strings() const {
         int n = 0;
-        for (int i = 0; i < NE; ++i) n += elems[i].e.kind == kString;
+        for (int i = 0; i < NE; ++i)
+            n += elems[i].e.kind == kString;
         return n;
     }
 
@@ -190,9 +189,11 @@ struct GaugeSpec {
     constexpr GaugeSpec<NE, static_cast<int>(sizeof...(A))> mouse(A... a) const {
         GaugeSpec<NE, static_cast<int>(sizeof...(A))> g{};
         g.copy_head(*this);
-        for (int i = 0; i < NE; ++i) g.elems[i] = elems[i];
+        for (int i = 0; i < NE; ++i)
+            g.elems[i] = elems[i];
         AreaSpec list[] = {a...};
-        for (int i = 0; i < static_cast<int>(sizeof...(A)); ++i) g.areas[i] = list[i];
+        for (int i = 0; i < static_cast<int>(sizeof...(A)); ++i)
+            g.areas[i] = list[i];
         return g;
     }
     template <class... E>
@@ -200,8 +201,10 @@ struct GaugeSpec {
         GaugeSpec<static_cast<int>(sizeof...(E)), NM> g{};
         g.copy_head(*this);
         ElementSpec list[] = {e...};
-        for (int i = 0; i < static_cast<int>(sizeof...(E)); ++i) g.elems[i] = list[i];
-        for (int i = 0; i < NM; ++i) g.areas[i] = areas[i];
+        for (int i = 0; i < static_cast<int>(sizeof...(E)); ++i)
+            g.elems[i] = list[i];
+        for (int i = 0; i < NM; ++i)
+            g.areas[i] = areas[i];
         return g;
     }
 };
@@ -245,7 +248,8 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeSpec<NE, NM>& spec, GaugeHeader
             chain_elem[n_chain++] = i;
         }
     }
-    for (int c = 0; c + 1 < n_chain; ++c) chain_next[chain_elem[c]] = chain_elem[c + 1];
+    for (int c = 0; c + 1 < n_chain; ++c)
+        chain_next[chain_elem[c]] = chain_elem[c + 1];
     int link_at = 0;
     int string_at = 0;
     for (int i = 0; i < NE; ++i) {
@@ -254,13 +258,17 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeSpec<NE, NM>& spec, GaugeHeader
         if (p.elems[i].kind == kString) {
             p.elems[i].u.str.text = self->text[string_at++];
         }
-        if (chain_of[i] < 0) continue;
+        if (chain_of[i] < 0)
+            continue;
         int first = link_at;
-        if (chain_next[i] >= 0) p.links[link_at++] = &self->elems[chain_next[i]];
+        if (chain_next[i] >= 0)
+            p.links[link_at++] = &self->elems[chain_next[i]];
         for (int j = 0; j < NE; ++j) {
-            if (spec.elems[j].parent == chain_of[i]) p.links[link_at++] = &self->elems[j];
+            if (spec.elems[j].parent == chain_of[i])
+                p.links[link_at++] = &self->elems[j];
         }
-        if (link_at == first) continue;  // no children
+        if (link_at == first)
+            continue;  // no children
         p.links[link_at++] = nullptr;
         p.elems[i].children = &self->links[first];
     }
@@ -275,7 +283,8 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeSpec<NE, NM>& spec, GaugeHeader
         p.mouse[r].u.tooltip = spec.tooltip;
         ++r;
     }
-    for (int i = 0; i < NM; ++i) p.mouse[r++] = spec.areas[i].r;
+    for (int i = 0; i < NM; ++i)
+        p.mouse[r++] = spec.areas[i].r;
     p.mouse[r] = MouseRect{};
     p.mouse[r++].row = kRowEndParent;
     p.mouse[r] = MouseRect{};
@@ -305,8 +314,10 @@ constexpr GaugeHeader make_header(const Spec& spec, Parts* parts) {
 // Checks made on every declaration.
 template <class Spec>
 constexpr bool well_formed(const Spec& spec) {
-    if (Spec::n_elems < 1 || Spec::n_elems > kMaxElements) return false;
-    if (spec.elems[0].parent >= 0 || spec.elems[0].e.kind != kStaticImage) return false;
+    if (Spec::n_elems < 1 || Spec::n_elems > kMaxElements)
+        return false;
+    if (spec.elems[0].parent >= 0 || spec.elems[0].e.kind != kStaticImage)
+        return false;
     int chain = 0;
     for (int i = 0; i < Spec::n_elems; ++i) {
         const ElementSpec& s = spec.elems[i];
@@ -316,10 +327,12 @@ constexpr bool well_formed(const Spec& spec) {
             // a branch must hang from an element that has a chain successor
             return false;
         }
-        if (s.e.kind == kString && s.e.u.str.char_count > kMaxText) return false;
+        if (s.e.kind == kString && s.e.u.str.char_count > kMaxText)
+            return false;
     }
     for (int i = 0; i < Spec::n_elems; ++i) {
-        if (spec.elems[i].parent >= chain - 1 && spec.elems[i].parent >= 0) return false;
+        if (spec.elems[i].parent >= chain - 1 && spec.elems[i].parent >= 0)
+            return false;
     }
     return true;
 }
@@ -327,20 +340,20 @@ constexpr bool well_formed(const Spec& spec) {
 }  // namespace def
 }  // namespace kestrane
 
-#define KESTRANE_PARTS_TYPE(id)                                                      \
+#define KESTRANE_PARTS_TYPE(id) \
     ::kestrane::def::GaugeParts<id##_spec.n_elems, id##_spec.n_areas, id##_spec.n_strings()>
 
 // Declares gauge `id` (its header is kestrane::gauges::id).
-#define KESTRANE_GAUGE(id, ...)                                                      \
-    namespace kestrane::gauges {                                                     \
-    namespace {                                                                      \
-    using namespace ::kestrane::def;                                                 \
-    constexpr auto id##_spec = __VA_ARGS__;                                          \
-    static_assert(well_formed(id##_spec), "malformed gauge " #id);                   \
-    extern KESTRANE_PARTS_TYPE(id) id##_parts;                                       \
-    }                                                                                \
-    constinit GaugeHeader id = make_header(id##_spec, &id##_parts);                  \
-    namespace {                                                                      \
+#define KESTRANE_GAUGE(id, ...)                                                       \
+    namespace kestrane::gauges {                                                      \
+    namespace {                                                                       \
+    using namespace ::kestrane::def;                                                  \
+    constexpr auto id##_spec = __VA_ARGS__;                                           \
+    static_assert(well_formed(id##_spec), "malformed gauge " #id);                    \
+    extern KESTRANE_PARTS_TYPE(id) id##_parts;                                        \
+    }                                                                                 \
+    constinit GaugeHeader id = make_header(id##_spec, &id##_parts);                   \
+    namespace {                                                                       \
     constinit KESTRANE_PARTS_TYPE(id) id##_parts = link(id##_spec, &id, &id##_parts); \
-    }                                                                                \
+    }                                                                                 \
     }

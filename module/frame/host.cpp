@@ -8,41 +8,43 @@ const HostServices* services() {
 
 f64 read(ModuleVar& var) {
     const HostServices* s = services();
-    if (s == nullptr || s->lookup_var == nullptr) return 0.0;
+    if (s == nullptr || s->lookup_var == nullptr)
+        return 0.0;
     s->lookup_var(&var);
     return var.value.n;
 }
 
 u32 read_bcd(ModuleVar& var) {
     const HostServices* s = services();
-    if (s == nullptr || s->lookup_var == nullptr) return 0;
+    if (s == nullptr || s->lookup_var == nullptr)
+        return 0;
     s->lookup_var(&var);
     return var.value.bcd;
 }
 
 void send_event(u32 event, u32 value) {
     const HostServices* s = services();
-    if (s != nullptr && s->trigger_key_event != nullptr) s->trigger_key_event(event, value);
+    if (s != nullptr && s->trigger_key_event != nullptr)
+        s->trigger_key_event(event, value);
 }
 
 u32 window_toggle(u32 ident) {
     const HostServices* s = services();
-    if (s == nullptr || s->panel_window_toggle == nullptr) return 0;
+    if (s == nullptr || s->panel_window_toggle == nullptr)
+        return 0;
     return s->panel_window_toggle(ident);
 }
 
 f64 named_get(const char* name) {
     const HostServices* s = services();
-    if (s == nullptr || s->register_named_variable == nullptr ||
-        s->get_named_variable_value == nullptr)
+    if (s == nullptr || s->register_named_variable == nullptr || s->get_named_variable_value == nullptr)
         return 0.0;
     return s->get_named_variable_value(s->register_named_variable(name));
 }
 
 void named_set(const char* name, f64 value) {
     const HostServices* s = services();
-    if (s == nullptr || s->register_named_variable == nullptr ||
-        s->set_named_variable_value == nullptr)
+    if (s == nullptr || s->register_named_variable == nullptr || s->set_named_variable_value == nullptr)
         return;
     s->set_named_variable_value(s->register_named_variable(name), value);
 }

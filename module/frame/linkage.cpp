@@ -12,7 +12,9 @@ namespace {
 void KCALL module_init() {}
 void KCALL module_deinit() {}
 
-Element* first_background() { return Linkage.gauges[0]->elements[0]; }
+Element* first_background() {
+    return Linkage.gauges[0]->elements[0];
+}
 }  // namespace
 
 // The seven routines every header shares: each hands the diagnostic gauge's
@@ -72,5 +74,7 @@ KEXPORT constinit ModuleImports ImportTable = {{{kImportPanels, nullptr}, {0, nu
 }  // extern "C"
 
 #if defined(_WIN32)
-extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD, LPVOID) { return TRUE; }
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD, LPVOID) {
+    return TRUE;
+}
 #endif

@@ -18,11 +18,14 @@ namespace kestrane {
 bool find_raw_resource(std::uintptr_t instance, const char* name, Blob& out) {
     HMODULE module = reinterpret_cast<HMODULE>(instance);
     HRSRC found = FindResourceA(module, name, MAKEINTRESOURCEA(10));
-    if (found == nullptr) return false;
+    if (found == nullptr)
+        return false;
     HGLOBAL loaded = LoadResource(module, found);
-    if (loaded == nullptr) return false;
+    if (loaded == nullptr)
+        return false;
     const void* locked = LockResource(loaded);
-    if (locked == nullptr) return false;
+    if (locked == nullptr)
+        return false;
     out.data = static_cast<const u8*>(locked);
     out.size = SizeofResource(module, found);
     return true;
@@ -31,7 +34,8 @@ bool find_raw_resource(std::uintptr_t instance, const char* name, Blob& out) {
 bool map_file(const char* name, MappedFile& out) {
     HANDLE file = CreateFileA(name, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                               FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
     DWORD size = GetFileSize(file, nullptr);
     HANDLE mapping = CreateFileMappingA(file, nullptr, PAGE_READONLY, 0, 0, nullptr);
     if (mapping == nullptr) {
@@ -42,7 +46,8 @@ bool map_file(const char* name, MappedFile& out) {
     CloseHandle(mapping);
     CloseHandle(file);
     if (view == nullptr || size == INVALID_FILE_SIZE) {
-        if (view != nullptr) UnmapViewOfFile(view);
+        if (view != nullptr)
+            UnmapViewOfFile(view);
         return false;
     }
     out.view.data = static_cast<const u8*>(view);
@@ -51,7 +56,8 @@ bool map_file(const char* name, MappedFile& out) {
 }
 
 void unmap_file(MappedFile& file) {
-    if (file.view.data != nullptr) UnmapViewOfFile(file.view.data);
+    if (file.view.data != nullptr)
+        UnmapViewOfFile(file.view.data);
     file.view = Blob{};
 }
 
@@ -79,7 +85,8 @@ bool find_raw_resource(std::uintptr_t, const char* name, Blob& out) {
 
 bool map_file(const char* name, MappedFile& out) {
     int fd = open(name, O_RDONLY | O_CLOEXEC);
-    if (fd < 0) return false;
+    if (fd < 0)
+        return false;
     struct stat st;
     if (fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size <= 0) {
         close(fd);
@@ -87,14 +94,16 @@ bool map_file(const char* name, MappedFile& out) {
     }
     void* view = mmap(nullptr, static_cast<std::size_t>(st.st_size), PROT_READ, MAP_PRIVATE, fd, 0);
     close(fd);
-    if (view == MAP_FAILED) return false;
+    if (view == MAP_FAILED)
+        return false;
     out.view.data = static_cast<const u8*>(view);
     out.view.size = static_cast<std::size_t>(st.st_size);
     return true;
 }
 
 void unmap_file(MappedFile& file) {
-    if (file.view.data != nullptr) munmap(const_cast<u8*>(file.view.data), file.view.size);
+    if (file.view.data != nullptr)
+        munmap(const_cast<u8*>(file.view.data), file.view.size);
     file.view = Blob{};
 }
 

@@ -11,10 +11,11 @@ namespace kestrane::sound {
 
 namespace {
 
-constexpr const char* kNames[kCount] = {
-    "CLICK",      "HI",     "LO",     "GONGMONO", "KLAXONCONT", "SONNERIE",   "BRAKESSND",
-    "CRECELLE",   "KLAXONGEAR", "CACHEMETAL", "V80KTS", "V1KTS", "VRKTS", "AIRCOND",
-    "AIRCONDENT", "AIRCONDSORT", "GPWSGLIDESLOPE", "GPWSPULLUP", "ALTRE"};
+constexpr const char* kNames[kCount] = {"CLICK",          "HI",         "LO",         "GONGMONO",
+                                        "KLAXONCONT",     "SONNERIE",   "BRAKESSND",  "CRECELLE",
+                                        "KLAXONGEAR",     "CACHEMETAL", "V80KTS",     "V1KTS",
+                                        "VRKTS",          "AIRCOND",    "AIRCONDENT", "AIRCONDSORT",
+                                        "GPWSGLIDESLOPE", "GPWSPULLUP", "ALTRE"};
 
 // The first 16 sounds follow the master volume; the GPWS voices and the
 // altitude chime keep theirs.
@@ -34,8 +35,10 @@ bool fill(LPDIRECTSOUNDBUFFER buffer, const u8* data, DWORD length) {
     DWORD size2 = 0;
     if (FAILED(IDirectSoundBuffer_Lock(buffer, 0, length, &part1, &size1, &part2, &size2, 0)))
         return false;
-    if (size1 > length) size1 = length;
-    if (part1 != nullptr) std::memcpy(part1, data, size1);
+    if (size1 > length)
+        size1 = length;
+    if (part1 != nullptr)
+        std::memcpy(part1, data, size1);
     if (part2 != nullptr && size2 > 0) {
         DWORD rest = length - size1;
         std::memcpy(part2, data + size1, size2 < rest ? size2 : rest);
@@ -48,9 +51,9 @@ LPDIRECTSOUNDBUFFER create_and_fill(const WaveView& wave) {
     // The "fmt " chunk may be shorter than the full record: copy what it holds.
     WAVEFORMATEX format;
     std::memset(&format, 0, sizeof format);
-    std::memcpy(&format, wave.format,
-                wave.format_size < sizeof format ? wave.format_size : sizeof format);
-    if (format.wFormatTag == WAVE_FORMAT_PCM) format.cbSize = 0;
+    std::memcpy(&format, wave.format, wave.format_size < sizeof format ? wave.format_size : sizeof format);
+    if (format.wFormatTag == WAVE_FORMAT_PCM)
+        format.cbSize = 0;
     DSBUFFERDESC desc;
     std::memset(&desc, 0, sizeof desc);
     desc.dwSize = 36;
@@ -68,24 +71,30 @@ LPDIRECTSOUNDBUFFER create_and_fill(const WaveView& wave) {
 }
 
 LPDIRECTSOUNDBUFFER load(const char* name) {
-    if (g_device == nullptr) return nullptr;
+    if (g_device == nullptr)
+        return nullptr;
     Blob resource;
     WaveView wave;
     if (find_raw_resource(g_instance, name, resource) && parse_wave(resource.data, resource.size, wave))
         return create_and_fill(wave);
     MappedFile file;
-    if (!map_file(name, file)) return nullptr;
+    if (!map_file(name, file))
+        return nullptr;
     LPDIRECTSOUNDBUFFER buffer = nullptr;
-    if (parse_wave(file.view.data, file.view.size, wave)) buffer = create_and_fill(wave);
+    if (parse_wave(file.view.data, file.view.size, wave))
+        buffer = create_and_fill(wave);
     unmap_file(file);
     return buffer;
 }
 
 void apply_volume(Id id) {
     i32 v = g_volume[id];
-    if (v > 0) v = 0;
-    if (v < -10000) v = -10000;
-    if (g_sounds[id] != nullptr) IDirectSoundBuffer_SetVolume(g_sounds[id], v);
+    if (v > 0)
+        v = 0;
+    if (v < -10000)
+        v = -10000;
+    if (g_sounds[id] != nullptr)
+        IDirectSoundBuffer_SetVolume(g_sounds[id], v);
 }
 
 }  // namespace
@@ -100,16 +109,20 @@ void start_and_load(std::uintptr_t instance) {
         }
     }
     for (int i = 0; i < kCount; ++i)
-        if (g_sounds[i] == nullptr) g_sounds[i] = load(kNames[i]);
-    for (int i = 0; i < kCount; ++i) apply_volume(static_cast<Id>(i));
+        if (g_sounds[i] == nullptr)
+            g_sounds[i] = load(kNames[i]);
+    for (int i = 0; i < kCount; ++i)
+        apply_volume(static_cast<Id>(i));
 }
 
 void shutdown() {
     for (int i = kCount - 1; i >= 0; --i) {
-        if (g_sounds[i] != nullptr) IDirectSoundBuffer_Release(g_sounds[i]);
+        if (g_sounds[i] != nullptr)
+            IDirectSoundBuffer_Release(g_sounds[i]);
         g_sounds[i] = nullptr;
     }
-    if (g_device != nullptr) IDirectSound8_Release(g_device);
+    if (g_device != nullptr)
+        IDirectSound8_Release(g_device);
     g_device = nullptr;
 }
 
@@ -119,13 +132,17 @@ void play(Id id, u32 mode) {
 }
 
 void stop(Id id) {
-    if (id < kCount && g_sounds[id] != nullptr) IDirectSoundBuffer_Stop(g_sounds[id]);
+    if (id < kCount && g_sounds[id] != nullptr)
+        IDirectSoundBuffer_Stop(g_sounds[id]);
 }
 
 void set_volume(Id id, i32 volume) {
-    if (id >= kCount || g_sounds[id] == nullptr) return;
-    if (volume > 0) volume = 0;
-    if (volume < -10000) volume = -10000;
+    if (id >= kCount || g_sounds[id] == nullptr)
+        return;
+    if (volume > 0)
+        volume = 0;
+    if (volume < -10000)
+        volume = -10000;
     IDirectSoundBuffer_SetVolume(g_sounds[id], volume);
 }
 
@@ -153,7 +170,9 @@ void master_up() {
     }
 }
 
-bool loaded(Id id) { return id < kCount && g_sounds[id] != nullptr; }
+bool loaded(Id id) {
+    return id < kCount && g_sounds[id] != nullptr;
+}
 
 }  // namespace kestrane::sound
 

@@ -49,8 +49,12 @@ void master_down();
 void master_up();
 
 // Shorthands for the switch sounds.
-inline void click() { play(kClick); }
-inline void cachemetal() { play(kCacheMetal); }
+inline void click() {
+    play(kClick);
+}
+inline void cachemetal() {
+    play(kCacheMetal);
+}
 
 bool loaded(Id id);
 

@@ -7,14 +7,30 @@ namespace kestrane {
 constinit AircraftState ac{};
 
 namespace {
-constexpr FieldType type_of(u8*) { return kU8; }
-constexpr FieldType type_of(i8*) { return kI8; }
-constexpr FieldType type_of(u16*) { return kU16; }
-constexpr FieldType type_of(i16*) { return kI16; }
-constexpr FieldType type_of(u32*) { return kU32; }
-constexpr FieldType type_of(i32*) { return kI32; }
-constexpr FieldType type_of(f32*) { return kF32; }
-constexpr FieldType type_of(f64*) { return kF64; }
+constexpr FieldType type_of(u8*) {
+    return kU8;
+}
+constexpr FieldType type_of(i8*) {
+    return kI8;
+}
+constexpr FieldType type_of(u16*) {
+    return kU16;
+}
+constexpr FieldType type_of(i16*) {
+    return kI16;
+}
+constexpr FieldType type_of(u32*) {
+    return kU32;
+}
+constexpr FieldType type_of(i32*) {
+    return kI32;
+}
+constexpr FieldType type_of(f32*) {
+    return kF32;
+}
+constexpr FieldType type_of(f64*) {
+    return kF64;
+}
 
 constexpr FieldInfo kFields[] = {
 #define KESTRANE_FIELD(type, name, load) \

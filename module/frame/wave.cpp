@@ -15,11 +15,14 @@ bool is(const u8* p, const char* id) {
 
 bool parse_wave(const u8* riff, std::size_t size, WaveView& out) {
     out = WaveView{};
-    if (riff == nullptr || size < 12) return false;
-    if (!is(riff, "RIFF") || !is(riff + 8, "WAVE")) return false;
+    if (riff == nullptr || size < 12)
+        return false;
+    if (!is(riff, "RIFF") || !is(riff + 8, "WAVE"))
+        return false;
     // The walk ends 8 + L bytes from the start, or at the end of what we hold.
     std::size_t end = 8 + static_cast<std::size_t>(le32(riff + 4));
-    if (end > size) end = size;
+    if (end > size)
+        end = size;
     std::size_t pos = 12;
     bool have_format = false;
     bool have_data = false;
@@ -29,21 +32,26 @@ bool parse_wave(const u8* riff, std::size_t size, WaveView& out) {
         const std::size_t body = pos + 8;
         const bool fits = n <= size - body;
         if (is(chunk, "fmt ") && !have_format) {
-            if (n < 14 || !fits) break;
+            if (n < 14 || !fits)
+                break;
             out.format = chunk + 8;
             out.format_size = static_cast<u32>(n);
             have_format = true;
-            if (have_data) return true;
+            if (have_data)
+                return true;
         } else if (is(chunk, "data") && !have_data) {
-            if (!fits) break;
+            if (!fits)
+                break;
             out.data = chunk + 8;
             out.data_size = static_cast<u32>(n);
             have_data = true;
-            if (have_format) return true;
+            if (have_format)
+                return true;
         }
         // Chunks are padded to an even length.
         const std::size_t step = n + (n & 1);
-        if (step >= end - body) break;
+        if (step >= end - body)
+            break;
         pos = body + step;
     }
     out = WaveView{};

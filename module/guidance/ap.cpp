@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(ap,
-    gauge("kestrane ap_jm47", 216, update)
-        .elements(image(27056, 0x4001)))  // e0
+KESTRANE_GAUGE(ap, gauge("kestrane ap_jm47", 216, update).elements(image(41056, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(apseul,
-    gauge("kestrane apseul_jm47", 216, update)
-        .elements(image(27072, 0x4001)))  // e0
+KESTRANE_GAUGE(apseul, gauge("kestrane apseul_jm47", 216, update).elements(image(41072, 0x4001)))  // e0

@@ -7,6 +7,6 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(apsurf_ail,
-    gauge("kestrane apsurf_ail_jm47", 36, update).help(0xAA37)
-        .elements(image(28928, 0x4001)))  // e0
+KESTRANE_GAUGE(
+    apsurf_ail,
+    gauge("kestrane apsurf_ail_jm47", 36, update).help(0xAA37).elements(image(42928, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(dmeinst,
-    gauge("kestrane dmeinst_jm47", 136, update)
-        .elements(image(28336, 0x4001)))  // e0
+KESTRANE_GAUGE(dmeinst, gauge("kestrane dmeinst_jm47", 136, update).elements(image(42336, 0x4001)))  // e0

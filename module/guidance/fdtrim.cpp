@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(fdtrim,
-    gauge("kestrane fdtrim_jm47", 90, update)
-        .elements(image(28064, 0x4001)))  // e0
+KESTRANE_GAUGE(fdtrim, gauge("kestrane fdtrim_jm47", 90, update).elements(image(42064, 0x4001)))  // e0

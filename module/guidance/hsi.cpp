@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(hsi,
-    gauge("kestrane hsi_jm47", 210, update)
-        .elements(image(28032, 0x4001)))  // e0
+KESTRANE_GAUGE(hsi, gauge("kestrane hsi_jm47", 210, update).elements(image(42032, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(omi,
-    gauge("kestrane omi_jm47", 86, update)
-        .elements(image(28848, 0x4001)))  // e0
+KESTRANE_GAUGE(omi, gauge("kestrane omi_jm47", 86, update).elements(image(42848, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(altalert,
-    gauge("kestrane altalert_jm47", 15, update)
-        .elements(image(29392, 0x4001)))  // e0
+KESTRANE_GAUGE(altalert, gauge("kestrane altalert_jm47", 15, update).elements(image(43392, 0x4001)))  // e0

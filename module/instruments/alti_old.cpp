@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(alti_old,
-    gauge("kestrane alti_old_jm47", 192, update)
-        .elements(image(28096, 0x4001)))  // e0
+KESTRANE_GAUGE(alti_old, gauge("kestrane alti_old_jm47", 192, update).elements(image(42096, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(ias,
-    gauge("kestrane ias_jm47", 206, update)
-        .elements(image(28000, 0x4001)))  // e0
+KESTRANE_GAUGE(ias, gauge("kestrane ias_jm47", 206, update).elements(image(42000, 0x4001)))  // e0

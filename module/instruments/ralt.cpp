@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(ralt,
-    gauge("kestrane ralt_jm47", 210, update)
-        .elements(image(28208, 0x4001)))  // e0
+KESTRANE_GAUGE(ralt, gauge("kestrane ralt_jm47", 210, update).elements(image(42208, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(tat,
-    gauge("kestrane tat_jm47", 181, update)
-        .elements(image(28816, 0x4001)))  // e0
+KESTRANE_GAUGE(tat, gauge("kestrane tat_jm47", 181, update).elements(image(42816, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(turn,
-    gauge("kestrane turn_jm47", 181, update)
-        .elements(image(28176, 0x4001)))  // e0
+KESTRANE_GAUGE(turn, gauge("kestrane turn_jm47", 181, update).elements(image(42176, 0x4001)))  // e0

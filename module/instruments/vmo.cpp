@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(vmo,
-    gauge("kestrane vmo_jm47", 17, update)
-        .elements(image(28080, 0x4001)))  // e0
+KESTRANE_GAUGE(vmo, gauge("kestrane vmo_jm47", 17, update).elements(image(42080, 0x4001)))  // e0

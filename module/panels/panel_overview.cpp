@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(panel_overview,
-    gauge("kestrane panel_overview", 539, update)
-        .elements(image(25408, 0x4002)))  // e0
+               gauge("kestrane panel_overview", 539, update).elements(image(25408, 0x4002)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(panload,
-    gauge("kestrane panload", 539, update)
-        .elements(image(25680, 0x6)))  // e0
+KESTRANE_GAUGE(panload, gauge("kestrane panload", 539, update).elements(image(25680, 0x6)))  // e0

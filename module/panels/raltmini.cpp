@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(raltmini,
-    gauge("kestrane raltmini_jm47", 228, update)
-        .elements(image(29072, 0x4001)))  // e0
+KESTRANE_GAUGE(raltmini, gauge("kestrane raltmini_jm47", 228, update).elements(image(43072, 0x4001)))  // e0

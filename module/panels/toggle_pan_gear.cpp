@@ -7,6 +7,6 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(toggle_pan_gear,
-    gauge("kestrane toggle_pan_gear", 80, update).tip("display/hide gear ind. panel")
-        .elements(image(304, 0x40004003)))  // e0
+KESTRANE_GAUGE(toggle_pan_gear, gauge("kestrane toggle_pan_gear", 80, update)
+                                    .tip("display/hide gear ind. panel")
+                                    .elements(image(304, 0x40004003)))  // e0

@@ -16,6 +16,6 @@ void KCALL update(GaugeHeader*, u32 service, std::uintptr_t extra) {
 }
 }  // namespace
 
-KESTRANE_GAUGE(toggle_pan_tadg,
-    gauge("kestrane toggle_pan_tadg", 70, update).tip("display/hide tadg & batt switch panel")
-        .elements(image(80, 0x40004003)))  // e0
+KESTRANE_GAUGE(toggle_pan_tadg, gauge("kestrane toggle_pan_tadg", 70, update)
+                                    .tip("display/hide tadg & batt switch panel")
+                                    .elements(image(80, 0x40004003)))  // e0

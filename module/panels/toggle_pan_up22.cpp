@@ -7,6 +7,6 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(toggle_pan_up22,
-    gauge("kestrane toggle_pan_up22", 70, update).tip("close Upper2 panel")
-        .elements(image(336, 0x40004003)))  // e0
+KESTRANE_GAUGE(toggle_pan_up22, gauge("kestrane toggle_pan_up22", 70, update)
+                                    .tip("close Upper2 panel")
+                                    .elements(image(336, 0x40004003)))  // e0

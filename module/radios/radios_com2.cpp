@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(radios_com2,
-    gauge("kestrane radios_com2_jm47", 96, update)
-        .elements(image(8512, 0x4001)))  // e0
+               gauge("kestrane radios_com2_jm47", 96, update).elements(image(8512, 0x4001)))  // e0

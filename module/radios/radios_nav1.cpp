@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(radios_nav1,
-    gauge("kestrane radios_nav1_jm47", 96, update)
-        .elements(image(8496, 0x4001)))  // e0
+               gauge("kestrane radios_nav1_jm47", 96, update).elements(image(8496, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(radios_nav2,
-    gauge("kestrane radios_nav2_jm47", 79, update)
-        .elements(image(8528, 0x4001)))  // e0
+               gauge("kestrane radios_nav2_jm47", 79, update).elements(image(8528, 0x4001)))  // e0

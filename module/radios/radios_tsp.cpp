@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(radios_tsp,
-    gauge("kestrane radios_tsp_jm47", 187, update)
-        .elements(image(8720, 0x4001)))  // e0
+               gauge("kestrane radios_tsp_jm47", 187, update).elements(image(8720, 0x4001)))  // e0

@@ -15,9 +15,9 @@ struct EmbeddedResource {
 
 namespace {
 // RIFF/WAVE with a 12-byte "fmt " chunk before a good "data" chunk.
-const u8 kShortFormat[] = {'R', 'I', 'F', 'F', 36, 0, 0, 0, 'W', 'A', 'V', 'E',
-                           'f', 'm', 't', ' ', 12, 0, 0, 0, 1, 0, 1, 0, 0x22, 0x56, 0, 0, 0x44, 0xAC, 0, 0,
-                           'd', 'a', 't', 'a', 4, 0, 0, 0, 1, 2, 3, 4};
+const u8 kShortFormat[] = {'R', 'I', 'F', 'F', 36,  0,   0, 0, 'W', 'A',  'V',  'E', 'f', 'm',  't',
+                           ' ', 12,  0,   0,   0,   1,   0, 1, 0,   0x22, 0x56, 0,   0,   0x44, 0xAC,
+                           0,   0,   'd', 'a', 't', 'a', 4, 0, 0,   0,    1,    2,   3,   4};
 }  // namespace
 
 extern const EmbeddedResource kEmbeddedResources[] = {

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(aircondtemp_cockpit,
-    gauge("kestrane aircondtemp_cockpit_jm47", 100, update)
-        .elements(image(13424, 0x4001)))  // e0
+               gauge("kestrane aircondtemp_cockpit_jm47", 100, update).elements(image(13424, 0x4001)))  // e0

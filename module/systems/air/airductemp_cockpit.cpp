@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(airductemp_cockpit,
-    gauge("kestrane airductemp_cockpit_jm47", 100, update)
-        .elements(image(13440, 0x4001)))  // e0
+               gauge("kestrane airductemp_cockpit_jm47", 100, update).elements(image(13440, 0x4001)))  // e0

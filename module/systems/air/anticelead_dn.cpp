@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(anticelead_dn,
-    gauge("kestrane anticelead_dn_jm47", 220, update)
-        .elements(image(27904, 0x4001)))  // e0
+               gauge("kestrane anticelead_dn_jm47", 220, update).elements(image(41904, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(anticelead_mid,
-    gauge("kestrane anticelead_mid_jm47", 219, update)
-        .elements(image(27920, 0x4001)))  // e0
+               gauge("kestrane anticelead_mid_jm47", 219, update).elements(image(41920, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(deice_eng_lh,
-    gauge("kestrane deice_eng_lh_jm47", 114, update)
-        .elements(image(27488, 0x4001)))  // e0
+               gauge("kestrane deice_eng_lh_jm47", 114, update).elements(image(41488, 0x4001)))  // e0

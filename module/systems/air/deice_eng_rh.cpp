@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(deice_eng_rh,
-    gauge("kestrane deice_eng_rh_jm47", 114, update)
-        .elements(image(27504, 0x4001)))  // e0
+               gauge("kestrane deice_eng_rh_jm47", 114, update).elements(image(41504, 0x4001)))  // e0

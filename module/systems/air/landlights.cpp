@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(landlights,
-    gauge("kestrane landlights_jm47", 205, update)
-        .elements(image(27568, 0x4001)))  // e0
+               gauge("kestrane landlights_jm47", 205, update).elements(image(41568, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(navbeacon,
-    gauge("kestrane navbeacon_jm47", 103, update)
-        .elements(image(27456, 0x4001)))  // e0
+KESTRANE_GAUGE(navbeacon, gauge("kestrane navbeacon_jm47", 103, update).elements(image(41456, 0x4001)))  // e0

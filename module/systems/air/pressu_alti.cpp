@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(pressu_alti,
-    gauge("kestrane pressu_alti_jm47", 198, update)
-        .elements(image(12672, 0x4001)))  // e0
+               gauge("kestrane pressu_alti_jm47", 198, update).elements(image(12672, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(pressu_vsi,
-    gauge("kestrane pressu_vsi_jm47", 137, update)
-        .elements(image(12608, 0x4001)))  // e0
+               gauge("kestrane pressu_vsi_jm47", 137, update).elements(image(12608, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(taxilights,
-    gauge("kestrane taxilights_jm47", 98, update)
-        .elements(image(27424, 0x4001)))  // e0
+               gauge("kestrane taxilights_jm47", 98, update).elements(image(41424, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(up2_sw,
-    gauge("kestrane up2_sw_jm47", 221, update)
-        .elements(image(27536, 0x4001)))  // e0
+KESTRANE_GAUGE(up2_sw, gauge("kestrane up2_sw_jm47", 221, update).elements(image(41536, 0x4001)))  // e0

@@ -2,5 +2,4 @@
 #include "frame/gauge_def.h"
 
 KESTRANE_GAUGE(up3_light1,
-    gauge("kestrane up3_light1_jm47", 93, nullptr)
-        .elements(image(13376, 0x4001)))  // e0
+               gauge("kestrane up3_light1_jm47", 93, nullptr).elements(image(13376, 0x4001)))  // e0

@@ -2,5 +2,4 @@
 #include "frame/gauge_def.h"
 
 KESTRANE_GAUGE(up3_light2,
-    gauge("kestrane up3_light2_jm47", 6, nullptr)
-        .elements(image(13392, 0x4001)))  // e0
+               gauge("kestrane up3_light2_jm47", 6, nullptr).elements(image(13392, 0x4001)))  // e0

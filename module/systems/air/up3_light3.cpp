@@ -2,5 +2,4 @@
 #include "frame/gauge_def.h"
 
 KESTRANE_GAUGE(up3_light3,
-    gauge("kestrane up3_light3_jm47", 19, nullptr)
-        .elements(image(13408, 0x4001)))  // e0
+               gauge("kestrane up3_light3_jm47", 19, nullptr).elements(image(13408, 0x4001)))  // e0

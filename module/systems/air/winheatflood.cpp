@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(winheatflood,
-    gauge("kestrane winheatflood_jm47", 140, update)
-        .elements(image(27440, 0x4001)))  // e0
+               gauge("kestrane winheatflood_jm47", 140, update).elements(image(41440, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(airbrakes_ind,
-    gauge("kestrane airbrakes_ind_jm47", 76, update)
-        .elements(image(28272, 0x4001)))  // e0
+               gauge("kestrane airbrakes_ind_jm47", 76, update).elements(image(42272, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(aircondopen,
-    gauge("kestrane aircondopen_jm47", 15, update)
-        .elements(image(29040, 0x4001)))  // e0
+               gauge("kestrane aircondopen_jm47", 15, update).elements(image(43040, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(askidgreen,
-    gauge("kestrane askidgreen_jm47", 15, update)
-        .elements(image(29056, 0x4001)))  // e0
+               gauge("kestrane askidgreen_jm47", 15, update).elements(image(43056, 0x4001)))  // e0

@@ -7,6 +7,6 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(dooropen,
-    gauge("kestrane DoorOpen_jm47", 15, update).tip("open/close forward main door")
-        .elements(image(28992, 0x4001)))  // e0
+KESTRANE_GAUGE(dooropen, gauge("kestrane DoorOpen_jm47", 15, update)
+                             .tip("open/close forward main door")
+                             .elements(image(42992, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(flapsind,
-    gauge("kestrane flapsind_jm47", 181, update)
-        .elements(image(28864, 0x4001)))  // e0
+KESTRANE_GAUGE(flapsind, gauge("kestrane flapsind_jm47", 181, update).elements(image(42864, 0x4001)))  // e0

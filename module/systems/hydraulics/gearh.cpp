@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(gearh,
-    gauge("kestrane Gearh_jm47", 15, update)
-        .elements(image(28976, 0x4001)))  // e0
+KESTRANE_GAUGE(gearh, gauge("kestrane Gearh_jm47", 15, update).elements(image(42976, 0x4001)))  // e0

@@ -8,5 +8,4 @@ void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
 KESTRANE_GAUGE(gearind,
-    gauge("kestrane gearind_jm47", 168, update).help(0xAB31)
-        .elements(image(29024, 0x4001)))  // e0
+               gauge("kestrane gearind_jm47", 168, update).help(0xAB31).elements(image(43024, 0x4001)))  // e0

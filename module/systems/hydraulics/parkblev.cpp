@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(parkblev,
-    gauge("kestrane ParkBLev_jm47", 31, update)
-        .elements(image(27008, 0x4001)))  // e0
+KESTRANE_GAUGE(parkblev, gauge("kestrane ParkBLev_jm47", 31, update).elements(image(41008, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(servos,
-    gauge("kestrane servos_jm47", 411, update)
-        .elements(image(26816, 0x4001)))  // e0
+KESTRANE_GAUGE(servos, gauge("kestrane servos_jm47", 411, update).elements(image(40816, 0x4001)))  // e0

@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(spoilh,
-    gauge("kestrane spoilh_jm47", 63, update)
-        .elements(image(26960, 0x4001)))  // e0
+KESTRANE_GAUGE(spoilh, gauge("kestrane spoilh_jm47", 63, update).elements(image(40960, 0x4001)))  // e0

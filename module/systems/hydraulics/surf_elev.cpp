@@ -7,6 +7,6 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(surf_elev,
-    gauge("kestrane surf_elev_jm47", 121, update).help(0xAA37)
-        .elements(image(28224, 0x4001)))  // e0
+KESTRANE_GAUGE(
+    surf_elev,
+    gauge("kestrane surf_elev_jm47", 121, update).help(0xAA37).elements(image(42224, 0x4001)))  // e0

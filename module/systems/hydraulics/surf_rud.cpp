@@ -7,6 +7,5 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(surf_rud,
-    gauge("kestrane surf_rud_jm47", 121, update).help(0xAA37)
-        .elements(image(28256, 0x4001)))  // e0
+KESTRANE_GAUGE(
+    surf_rud, gauge("kestrane surf_rud_jm47", 121, update).help(0xAA37).elements(image(42256, 0x4001)))  // e0

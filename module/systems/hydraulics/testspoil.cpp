@@ -7,6 +7,4 @@ using namespace kestrane;
 void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
 }  // namespace
 
-KESTRANE_GAUGE(testspoil,
-    gauge("kestrane testspoil_jm47", 116, update)
-        .elements(image(27024, 0x4001)))  // e0
+KESTRANE_GAUGE(testspoil, gauge("kestrane testspoil_jm47", 116, update).elements(image(41024, 0x4001)))  // e0

@@ -23,10 +23,24 @@ ModuleVar flow_1 = token(638), sim_time_1 = token(607);
 ModuleVar flow_2 = token(657), sim_time_2 = token(607);
 FuelCounter counter_1{}, counter_2{};
 
-constexpr FlowEngine kEngine1{flow_1,         sim_time_1,           counter_1, ac.fuel_flow_disp_1,
-                              ac.fuel_used_1, ac.fuel_used_reset_1, false};
-constexpr FlowEngine kEngine2{flow_2,         sim_time_2,           counter_2, ac.fuel_flow_disp_2,
-                              ac.fuel_used_2, ac.fuel_used_reset_2, true};
+constexpr FlowEngine kEngine1{
+    .flow = flow_1,
+    .sim_time = sim_time_1,
+    .counter = counter_1,
+    .flow_disp = ac.fuel_flow_disp_1,
+    .used = ac.fuel_used_1,
+    .reset = ac.fuel_used_reset_1,
+    .takes_back_reset = false,
+};
+constexpr FlowEngine kEngine2{
+    .flow = flow_2,
+    .sim_time = sim_time_2,
+    .counter = counter_2,
+    .flow_disp = ac.fuel_flow_disp_2,
+    .used = ac.fuel_used_2,
+    .reset = ac.fuel_used_reset_2,
+    .takes_back_reset = true,
+};
 
 // reads the needle's own source variable, the engine's fuel flow
 template <const FlowEngine& S>

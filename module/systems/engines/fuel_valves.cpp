@@ -20,8 +20,20 @@ struct ValveSide {
 ModuleVar left_host_valve = token(895);
 ModuleVar right_host_valve = token(896);
 
-constexpr ValveSide kLeft{ac.fuel_valve_sw1_lh, ac.fuel_valve_lh, ac.fuel_valve_rh, left_host_valve, 66494};
-constexpr ValveSide kRight{ac.fuel_valve_sw1_rh, ac.fuel_valve_rh, ac.fuel_valve_lh, right_host_valve, 66495};
+constexpr ValveSide kLeft{
+    .sw1 = ac.fuel_valve_sw1_lh,
+    .valve = ac.fuel_valve_lh,
+    .other_valve = ac.fuel_valve_rh,
+    .host_valve = left_host_valve,
+    .host_toggle = 66494,
+};
+constexpr ValveSide kRight{
+    .sw1 = ac.fuel_valve_sw1_rh,
+    .valve = ac.fuel_valve_rh,
+    .other_valve = ac.fuel_valve_lh,
+    .host_valve = right_host_valve,
+    .host_toggle = 66495,
+};
 
 // Either switch moves both; each judges the move by its own position.
 void set_valve(const ValveSide& s, u8 own, u8 position) {

@@ -36,12 +36,12 @@ inline constexpr u32 kMaxText = 31;  // longest string element, in characters
 inline constexpr int kMaxElements = 64;
 
 // One element as declared: the record without its links, and where it hangs.
-struct ElementSpec {
+struct ElementDecl {
     Element e{};
     int parent = -1;  // -1: next in the chain; otherwise the chain index it branches from
 };
 
-struct AreaSpec {
+struct AreaDecl {
     MouseRect r{};
 };
 
@@ -56,21 +56,21 @@ constexpr Element base(u32 kind, u32 bitmap, i32 x, i32 y, u32 flags) {
 }
 
 // Static image (backgrounds, overlays).
-constexpr ElementSpec image(u32 bitmap, u32 flags, i32 x = 0, i32 y = 0) {
+constexpr ElementDecl image(u32 bitmap, u32 flags, i32 x = 0, i32 y = 0) {
     return {base(kStaticImage, bitmap, x, y, flags)};
 }
 
 // Icon: one image, shown or hidden by the gauge's callback.
-constexpr ElementSpec icon(u32 bitmap, i32 x, i32 y, u32 flags) {
-    ElementSpec s{base(kIcon, bitmap, x, y, flags)};
+constexpr ElementDecl icon(u32 bitmap, i32 x, i32 y, u32 flags) {
+    ElementDecl s{base(kIcon, bitmap, x, y, flags)};
     s.e.u.icon = IconData{{}, 1};
     return s;
 }
 
 template <std::size_t N>
-constexpr ElementSpec needle(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32 flags, ValueCallback cb,
+constexpr ElementDecl needle(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32 flags, ValueCallback cb,
                              NeedlePoint (&table)[N], u32 rate = 0, u32 token = 0) {
-    ElementSpec s{base(kNeedle, bitmap, x, y, flags)};
+    ElementDecl s{base(kNeedle, bitmap, x, y, flags)};
     s.e.ref_x = ref_x;
     s.e.ref_y = ref_y;
     s.e.u.needle = NeedleData{{}, cb, table, static_cast<u32>(N), rate};
@@ -78,26 +78,26 @@ constexpr ElementSpec needle(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32
     return s;
 }
 
-constexpr ElementSpec moving(u32 bitmap, i32 x, i32 y, u32 flags, ValueCallback cb_x, ValueCallback cb_y,
+constexpr ElementDecl moving(u32 bitmap, i32 x, i32 y, u32 flags, ValueCallback cb_x, ValueCallback cb_y,
                              f64 min_x, f64 max_x, f64 min_y, f64 max_y) {
-    ElementSpec s{base(kMovingImage, bitmap, x, y, flags)};
+    ElementDecl s{base(kMovingImage, bitmap, x, y, flags)};
     s.e.u.moving = MovingData{cb_x, cb_y, min_x, max_x, min_y, max_y};
     return s;
 }
 
-constexpr ElementSpec sprite(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32 flags, i32 texture_cx,
+constexpr ElementDecl sprite(u32 bitmap, i32 x, i32 y, i32 ref_x, i32 ref_y, u32 flags, i32 texture_cx,
                              i32 texture_cy, ValueCallback cb_x, ValueCallback cb_y, ValueCallback cb_rot,
                              f32 scale_x = 1.0f, f32 scale_y = 1.0f) {
-    ElementSpec s{base(kSprite, bitmap, x, y, flags)};
+    ElementDecl s{base(kSprite, bitmap, x, y, flags)};
     s.e.ref_x = ref_x;
     s.e.ref_y = ref_y;
     s.e.u.sprite = SpriteData{texture_cx, texture_cy, scale_x, scale_y, cb_x, cb_y, cb_rot};
     return s;
 }
 
-constexpr ElementSpec slider(u32 bitmap, i32 x, i32 y, u32 flags, u32 token_x, u32 token_y, f64 scale_x,
+constexpr ElementDecl slider(u32 bitmap, i32 x, i32 y, u32 flags, u32 token_x, u32 token_y, f64 scale_x,
                              f64 scale_y, ValueCallback cb_x, ValueCallback cb_y) {
-    ElementSpec s{base(kSlider, bitmap, x, y, flags)};
+    ElementDecl s{base(kSlider, bitmap, x, y, flags)};
     s.e.u.slider = SliderData{{}, {}, scale_x, scale_y, cb_x, cb_y};
     s.e.u.slider.source_x.id = token_x;
     s.e.u.slider.source_y.id = token_y;
@@ -109,9 +109,9 @@ struct TextStyle {
 };
 
 // String element: Courier New, weight 400, character set 1, centred on one line.
-constexpr ElementSpec text(i32 x, i32 y, i32 w, i32 h, u32 chars, TextStyle c, u32 token, ValueCallback cb,
+constexpr ElementDecl text(i32 x, i32 y, i32 w, i32 h, u32 chars, TextStyle c, u32 token, ValueCallback cb,
                            u32 flags = 0x6) {
-    ElementSpec s{base(kString, kNoBitmap, x, y, flags)};
+    ElementDecl s{base(kString, kNoBitmap, x, y, flags)};
     s.e.u.str =
         StringData{{}, w, h, chars, c.fg, c.bg, c.highlight, "Courier New", 400, 1, 0x25, cb, nullptr};
     s.e.u.str.source.id = token;
@@ -119,13 +119,13 @@ constexpr ElementSpec text(i32 x, i32 y, i32 w, i32 h, u32 chars, TextStyle c, u
 }
 
 // Hangs an element as a branch of chain element `parent`: drawn, but not numbered.
-constexpr ElementSpec branch(int parent, ElementSpec s) {
+constexpr ElementDecl branch(int parent, ElementDecl s) {
     s.parent = parent;
     return s;
 }
 
-constexpr AreaSpec area(i32 x, i32 y, i32 w, i32 h, i32 cursor, u32 flags, MouseHandler fn) {
-    AreaSpec a{};
+constexpr AreaDecl area(i32 x, i32 y, i32 w, i32 h, i32 cursor, u32 flags, MouseHandler fn) {
+    AreaDecl a{};
     a.r.row = kRowChild;
     a.r.x = x;
     a.r.y = y;
@@ -136,26 +136,26 @@ constexpr AreaSpec area(i32 x, i32 y, i32 w, i32 h, i32 cursor, u32 flags, Mouse
     a.r.u.handler = fn;
     return a;
 }
-constexpr AreaSpec click(i32 x, i32 y, i32 w, i32 h, i32 cursor, MouseHandler fn) {
+constexpr AreaDecl click(i32 x, i32 y, i32 w, i32 h, i32 cursor, MouseHandler fn) {
     return area(x, y, w, h, cursor, kMouseLeft, fn);
 }
-constexpr AreaSpec repeat(i32 x, i32 y, i32 w, i32 h, i32 cursor, MouseHandler fn) {
+constexpr AreaDecl repeat(i32 x, i32 y, i32 w, i32 h, i32 cursor, MouseHandler fn) {
     return area(x, y, w, h, cursor, kMouseLeft | kMouseRepeat, fn);
 }
-constexpr AreaSpec hover(i32 x, i32 y, i32 w, i32 h, MouseHandler fn) {
+constexpr AreaDecl hover(i32 x, i32 y, i32 w, i32 h, MouseHandler fn) {
     return area(x, y, w, h, kCursorNone, kMouseMove, fn);
 }
 
 // The declared gauge, before linking.
 template <int NE, int NM>
-struct GaugeSpec {
+struct GaugeDecl {
     const char* name;
     u32 width;
     GaugeCallback callback;
     u32 help_id;
     const char* tooltip;
-    ElementSpec elems[NE > 0 ? NE : 1];
-    AreaSpec areas[NM > 0 ? NM : 1];
+    ElementDecl elems[NE > 0 ? NE : 1];
+    AreaDecl areas[NM > 0 ? NM : 1];
 
     static constexpr int n_elems = NE;
     static constexpr int n_areas = NM;
@@ -175,32 +175,32 @@ struct GaugeSpec {
         help_id = o.help_id;
         tooltip = o.tooltip;
     }
-    constexpr GaugeSpec help(u32 id) const {
-        GaugeSpec g = *this;
+    constexpr GaugeDecl help(u32 id) const {
+        GaugeDecl g = *this;
         g.help_id = id;
         return g;
     }
-    constexpr GaugeSpec tip(const char* t) const {
-        GaugeSpec g = *this;
+    constexpr GaugeDecl tip(const char* t) const {
+        GaugeDecl g = *this;
         g.tooltip = t;
         return g;
     }
     template <class... A>
-    constexpr GaugeSpec<NE, static_cast<int>(sizeof...(A))> mouse(A... a) const {
-        GaugeSpec<NE, static_cast<int>(sizeof...(A))> g{};
+    constexpr GaugeDecl<NE, static_cast<int>(sizeof...(A))> mouse(A... a) const {
+        GaugeDecl<NE, static_cast<int>(sizeof...(A))> g{};
         g.copy_head(*this);
         for (int i = 0; i < NE; ++i)
             g.elems[i] = elems[i];
-        AreaSpec list[] = {a...};
+        AreaDecl list[] = {a...};
         for (int i = 0; i < static_cast<int>(sizeof...(A)); ++i)
             g.areas[i] = list[i];
         return g;
     }
     template <class... E>
-    constexpr GaugeSpec<static_cast<int>(sizeof...(E)), NM> elements(E... e) const {
-        GaugeSpec<static_cast<int>(sizeof...(E)), NM> g{};
+    constexpr GaugeDecl<static_cast<int>(sizeof...(E)), NM> elements(E... e) const {
+        GaugeDecl<static_cast<int>(sizeof...(E)), NM> g{};
         g.copy_head(*this);
-        ElementSpec list[] = {e...};
+        ElementDecl list[] = {e...};
         for (int i = 0; i < static_cast<int>(sizeof...(E)); ++i)
             g.elems[i] = list[i];
         for (int i = 0; i < NM; ++i)
@@ -209,8 +209,8 @@ struct GaugeSpec {
     }
 };
 
-constexpr GaugeSpec<0, 0> gauge(const char* name, u32 width, GaugeCallback cb) {
-    GaugeSpec<0, 0> g{};
+constexpr GaugeDecl<0, 0> gauge(const char* name, u32 width, GaugeCallback cb) {
+    GaugeDecl<0, 0> g{};
     g.name = name;
     g.width = width;
     g.callback = cb;
@@ -227,9 +227,9 @@ struct GaugeParts {
     char text[NS > 0 ? NS : 1][kMaxText + 1];
 };
 
-// Builds the parts of `spec` in place at `self`, all pointers resolved.
+// Builds the parts of `decl` in place at `self`, all pointers resolved.
 template <int NE, int NM, int NS>
-constexpr GaugeParts<NE, NM, NS> link(const GaugeSpec<NE, NM>& spec, GaugeHeader* header,
+constexpr GaugeParts<NE, NM, NS> link(const GaugeDecl<NE, NM>& decl, GaugeHeader* header,
                                       GaugeParts<NE, NM, NS>* self) {
     GaugeParts<NE, NM, NS> p{};
     p.root[0] = &self->elems[0];
@@ -243,7 +243,7 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeSpec<NE, NM>& spec, GaugeHeader
     }
     int chain_elem[NE];
     for (int i = 0; i < NE; ++i) {
-        if (spec.elems[i].parent < 0) {
+        if (decl.elems[i].parent < 0) {
             chain_of[i] = n_chain;
             chain_elem[n_chain++] = i;
         }
@@ -253,7 +253,7 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeSpec<NE, NM>& spec, GaugeHeader
     int link_at = 0;
     int string_at = 0;
     for (int i = 0; i < NE; ++i) {
-        p.elems[i] = spec.elems[i].e;
+        p.elems[i] = decl.elems[i].e;
         p.elems[i].gauge = header;
         if (p.elems[i].kind == kString) {
             p.elems[i].u.str.text = self->text[string_at++];
@@ -264,7 +264,7 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeSpec<NE, NM>& spec, GaugeHeader
         if (chain_next[i] >= 0)
             p.links[link_at++] = &self->elems[chain_next[i]];
         for (int j = 0; j < NE; ++j) {
-            if (spec.elems[j].parent == chain_of[i])
+            if (decl.elems[j].parent == chain_of[i])
                 p.links[link_at++] = &self->elems[j];
         }
         if (link_at == first)
@@ -275,16 +275,16 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeSpec<NE, NM>& spec, GaugeHeader
     int r = 0;
     p.mouse[r] = MouseRect{};
     p.mouse[r].row = kRowParent;
-    p.mouse[r].help_id = spec.help_id;
+    p.mouse[r].help_id = decl.help_id;
     ++r;
-    if (spec.tooltip) {
+    if (decl.tooltip) {
         p.mouse[r] = MouseRect{};
         p.mouse[r].row = kRowTooltip;
-        p.mouse[r].u.tooltip = spec.tooltip;
+        p.mouse[r].u.tooltip = decl.tooltip;
         ++r;
     }
     for (int i = 0; i < NM; ++i)
-        p.mouse[r++] = spec.areas[i].r;
+        p.mouse[r++] = decl.areas[i].r;
     p.mouse[r] = MouseRect{};
     p.mouse[r++].row = kRowEndParent;
     p.mouse[r] = MouseRect{};
@@ -292,11 +292,11 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeSpec<NE, NM>& spec, GaugeHeader
     return p;
 }
 
-template <class Spec, class Parts>
-constexpr GaugeHeader make_header(const Spec& spec, Parts* parts) {
+template <class Decl, class Parts>
+constexpr GaugeHeader make_header(const Decl& decl, Parts* parts) {
     GaugeHeader h{};
     h.version = 0x320;
-    h.name = spec.name;
+    h.name = decl.name;
     h.elements = parts->root;
     h.query = header_query;
     h.install = header_install;
@@ -305,33 +305,33 @@ constexpr GaugeHeader make_header(const Spec& spec, Parts* parts) {
     h.generate = header_generate;
     h.draw = header_draw;
     h.kill = header_kill;
-    h.size_x_mm = spec.width;
+    h.size_x_mm = decl.width;
     h.mouse = parts->mouse;
-    h.callback = spec.callback;
+    h.callback = decl.callback;
     return h;
 }
 
 // Checks made on every declaration.
-template <class Spec>
-constexpr bool well_formed(const Spec& spec) {
-    if (Spec::n_elems < 1 || Spec::n_elems > kMaxElements)
+template <class Decl>
+constexpr bool well_formed(const Decl& decl) {
+    if (Decl::n_elems < 1 || Decl::n_elems > kMaxElements)
         return false;
-    if (spec.elems[0].parent >= 0 || spec.elems[0].e.kind != kStaticImage)
+    if (decl.elems[0].parent >= 0 || decl.elems[0].e.kind != kStaticImage)
         return false;
     int chain = 0;
-    for (int i = 0; i < Spec::n_elems; ++i) {
-        const ElementSpec& s = spec.elems[i];
+    for (int i = 0; i < Decl::n_elems; ++i) {
+        const ElementDecl& s = decl.elems[i];
         if (s.parent < 0) {
             ++chain;
-        } else if (s.parent >= chain - 1 && i + 1 >= Spec::n_elems) {
+        } else if (s.parent >= chain - 1 && i + 1 >= Decl::n_elems) {
             // a branch must hang from an element that has a chain successor
             return false;
         }
         if (s.e.kind == kString && s.e.u.str.char_count > kMaxText)
             return false;
     }
-    for (int i = 0; i < Spec::n_elems; ++i) {
-        if (spec.elems[i].parent >= chain - 1 && spec.elems[i].parent >= 0)
+    for (int i = 0; i < Decl::n_elems; ++i) {
+        if (decl.elems[i].parent >= chain - 1 && decl.elems[i].parent >= 0)
             return false;
     }
     return true;
@@ -341,19 +341,19 @@ constexpr bool well_formed(const Spec& spec) {
 }  // namespace kestrane
 
 #define KESTRANE_PARTS_TYPE(id) \
-    ::kestrane::def::GaugeParts<id##_spec.n_elems, id##_spec.n_areas, id##_spec.n_strings()>
+    ::kestrane::def::GaugeParts<id##_decl.n_elems, id##_decl.n_areas, id##_decl.n_strings()>
 
 // Declares gauge `id` (its header is kestrane::gauges::id).
 #define KESTRANE_GAUGE(id, ...)                                                       \
     namespace kestrane::gauges {                                                      \
     namespace {                                                                       \
     using namespace ::kestrane::def;                                                  \
-    constexpr auto id##_spec = __VA_ARGS__;                                           \
-    static_assert(well_formed(id##_spec), "malformed gauge " #id);                    \
+    constexpr auto id##_decl = __VA_ARGS__;                                           \
+    static_assert(well_formed(id##_decl), "malformed gauge " #id);                    \
     extern KESTRANE_PARTS_TYPE(id) id##_parts;                                        \
     }                                                                                 \
-    constinit GaugeHeader id = make_header(id##_spec, &id##_parts);                   \
+    constinit GaugeHeader id = make_header(id##_decl, &id##_parts);                   \
     namespace {                                                                       \
-    constinit KESTRANE_PARTS_TYPE(id) id##_parts = link(id##_spec, &id, &id##_parts); \
+    constinit KESTRANE_PARTS_TYPE(id) id##_parts = link(id##_decl, &id, &id##_parts); \
     }                                                                                 \
     }

@@ -204,14 +204,24 @@ void Host::tag_sounds() {
             b->name = sounds_->names[i];
 }
 
+int Host::sound_index(std::string_view name) const {
+    if (sounds_ != nullptr)
+        for (u32 i = 0; i < sounds_->count; ++i)
+            if (name == sounds_->names[i])
+                return static_cast<int>(i);
+    return -1;
+}
+
+bool Host::has_sound(std::string_view name) const {
+    return sound_index(name) >= 0;
+}
+
 SoundBuffer* Host::sound(std::string_view name) const {
-    if (sounds_ == nullptr)
+    int i = sound_index(name);
+    if (i < 0)
         return nullptr;
-    auto* handles = static_cast<void* const*>(sounds_->handles);
-    for (u32 i = 0; i < sounds_->count; ++i)
-        if (name == sounds_->names[i])
-            return handles[i] ? sound_.buffer(handles[i]) : nullptr;
-    return nullptr;
+    void* handle = static_cast<void* const*>(sounds_->handles)[i];
+    return handle ? sound_.buffer(handle) : nullptr;
 }
 
 bool Host::record_audio(const std::string& path) {

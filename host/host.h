@@ -121,6 +121,8 @@ public:
     const SoundTable* sound_table() const { return sounds_; }
     // The buffer the module holds for sound `name` now (null when not loaded).
     SoundBuffer* sound(std::string_view name) const;
+    // Whether the module names a sound `name`.
+    bool has_sound(std::string_view name) const;
     // Mixes everything played from now on into a WAV file.
     bool record_audio(const std::string& path);
 
@@ -175,6 +177,7 @@ private:
     const SoundTable* sounds_ = nullptr;
     std::unique_ptr<Recorder> recorder_;
     void tag_sounds();
+    int sound_index(std::string_view name) const;
 };
 
 }  // namespace kestrane::host

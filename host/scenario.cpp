@@ -16,13 +16,6 @@ namespace kestrane::host {
 
 namespace {
 
-// The module's sounds, by resource name.
-constexpr std::array<std::string_view, 19> kSoundNames = {
-    "CLICK",     "HI",       "LO",         "GONGMONO",    "KLAXONCONT",     "SONNERIE",
-    "BRAKESSND", "CRECELLE", "KLAXONGEAR", "CACHEMETAL",  "V80KTS",         "V1KTS",
-    "VRKTS",     "AIRCOND",  "AIRCONDENT", "AIRCONDSORT", "GPWSGLIDESLOPE", "GPWSPULLUP",
-    "ALTRE"};
-
 struct Token {
     std::string text;
     bool quoted = false;
@@ -301,7 +294,7 @@ void parse_expect(Line& l, Command& c, const Host& host) {
         c.name = l.quoted("a sound name");
         if (!l.ok())
             return;
-        if (std::find(kSoundNames.begin(), kSoundNames.end(), c.name) == kSoundNames.end()) {
+        if (!host.has_sound(c.name)) {
             l.fail("unknown sound \"" + c.name + "\"");
             return;
         }

@@ -87,14 +87,9 @@ LPDIRECTSOUNDBUFFER load(const char* name) {
     return buffer;
 }
 
+// Applies the volume-table entry; set_volume clamps it.
 void apply_volume(Id id) {
-    i32 v = g_volume[id];
-    if (v > 0)
-        v = 0;
-    if (v < -10000)
-        v = -10000;
-    if (g_sounds[id] != nullptr)
-        IDirectSoundBuffer_SetVolume(g_sounds[id], v);
+    set_volume(id, g_volume[id]);
 }
 
 }  // namespace

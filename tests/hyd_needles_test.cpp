@@ -1,21 +1,16 @@
-// Hydraulic dials: what the pressure and level needles show with and
-// without the 26 V AC instrument bus, and the clamp to the dial.
+// Hydraulic dials: the 26 V AC instrument bus, and clamps on the needle only.
 #include <gtest/gtest.h>
 
 #include "host/host.h"
 
 namespace {
-
 using namespace kestrane;
 using kestrane::host::Host;
-
 class HydNeedles : public ::testing::Test {
 protected:
     Host host;
     GaugeHeader *level, *green, *red, *yellow;
 
-    // Instruments powered, engine 1 running: the green circuit is normal,
-    // so the yellow pumps keep whatever pressure they are given.
     void SetUp() override {
         ASSERT_TRUE(host.ok()) << host.error();
         level = host.gauge("kestrane hydrau_level_jm47");
@@ -25,7 +20,7 @@ protected:
         for (GaugeHeader* g : {level, green, red, yellow})
             host.install(g);
         set("elec_ac_26v_bus", 1);
-        host.set_token(625, 40);
+        host.set_token(625, 40);  // engine 1 running: green normal
         host.run(100);
     }
     static f64 needle(GaugeHeader* g, int n) {
@@ -34,16 +29,7 @@ protected:
     }
     void set(const char* field, f64 v) { ASSERT_TRUE(host.set_field(field, v)) << field; }
 };
-
-TEST_F(HydNeedles, InstrumentBusDeadGreenZeroRedAndLevelsFrozenYellowLive) {
-    set("hyd_yellow2_press", 1200);
-    host.run(1);
-    EXPECT_EQ(needle(green, 15), 2500);
-    EXPECT_EQ(needle(red, 5), 2500);
-    EXPECT_EQ(needle(yellow, 4), 1200);
-    EXPECT_EQ(needle(level, 1), 50);
-    EXPECT_EQ(needle(level, 2), 60);
-
+TEST_F(HydNeedles, BusDeadGreenZeroRedAndLevelFrozenYellowLive) {
     set("elec_ac_26v_bus", 0);
     set("hyd_red_press", 900);
     set("hyd_yellow2_press", 700);
@@ -54,7 +40,6 @@ TEST_F(HydNeedles, InstrumentBusDeadGreenZeroRedAndLevelsFrozenYellowLive) {
     EXPECT_EQ(needle(red, 5), 2500);
     EXPECT_EQ(needle(yellow, 4), 700);
     EXPECT_EQ(needle(level, 1), 50);
-
     set("elec_ac_26v_bus", 1);
     host.run(1);
     EXPECT_EQ(needle(green, 15), 2500);
@@ -62,7 +47,7 @@ TEST_F(HydNeedles, InstrumentBusDeadGreenZeroRedAndLevelsFrozenYellowLive) {
     EXPECT_EQ(needle(level, 1), 60);
 }
 
-TEST_F(HydNeedles, ValuesOffTheDialAreClampedOnTheCopyOnly) {
+TEST_F(HydNeedles, ValuesOffTheDialClampedOnTheNeedleOnly) {
     set("hyd_yellow2_press", 5000);
     set("hyd_blue_level", 90);
     host.run(1);
@@ -70,17 +55,5 @@ TEST_F(HydNeedles, ValuesOffTheDialAreClampedOnTheCopyOnly) {
     EXPECT_EQ(needle(level, 2), 70);
     EXPECT_EQ(host.field_value("hyd_yellow_press"), 5000);
     EXPECT_EQ(host.field_value("hyd_blue_level"), 90);
-    // every dial's table runs one way
-    for (GaugeHeader* g : {level, green, red, yellow, host.gauge("kestrane hydrau_bluepress_jm47")}) {
-        for (int n = 1; n < Host::chain_length(g); ++n) {
-            Element* e = Host::element(g, n);
-            if (e->kind != kNeedle)
-                continue;
-            const NeedlePoint* t = e->u.needle.table;
-            for (u32 i = 1; i < e->u.needle.table_count; ++i)
-                EXPECT_LT(t[i - 1].value, t[i].value);
-        }
-    }
 }
-
 }  // namespace

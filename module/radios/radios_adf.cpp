@@ -198,6 +198,7 @@ f64 KCALL drum_y(Element*) {
 // ---------------------------------------------------------------- declaration
 
 constexpr u32 kDrumFlags = 0x4003;
+constexpr u32 kHiddenDrum = 0x40004003;  // the tenths drum, shown on demand
 
 template <const Adf& S, int K>
 constexpr def::ElementDecl drum(u32 bitmap, i32 x, i32 y, u32 flags = kDrumFlags) {
@@ -205,59 +206,55 @@ constexpr def::ElementDecl drum(u32 bitmap, i32 x, i32 y, u32 flags = kDrumFlags
                        static_cast<f64>(kPositions[K]));
 }
 
-// The knobs and switches, the same boxes on both panels.
-template <const Adf& S>
-constexpr def::AreaDecl kAreas[] = {
-    def::repeat(47, 50, 25, 33, kCursorUp, knob<S, &Adf::a_up>),
-    def::repeat(22, 50, 25, 33, kCursorDown, knob<S, &Adf::a_down>),
-    def::repeat(100, 73, 25, 33, kCursorUp, knob<S, &Adf::b_up>),
-    def::repeat(75, 73, 25, 33, kCursorDown, knob<S, &Adf::b_down>),
-    def::repeat(152, 50, 25, 33, kCursorUp, right_knob<S, &Adf::c_up, &Adf::fine_up>),
-    def::repeat(127, 50, 25, 33, kCursorDown, right_knob<S, &Adf::c_down, &Adf::fine_down>),
-    def::click(85, 40, 42, 18, kCursorHand, fine_toggle<S>),
-    def::click(52, 13, 28, 13, kCursorDown, left_switch<S, 0>),
-    def::click(52, 0, 28, 13, kCursorUp, left_switch<S, 1>),
-    def::click(114, 0, 28, 13, kCursorHand, right_switch<S, 1>),
-    def::click(114, 13, 28, 13, kCursorHand, right_switch<S, 0>),
-};
+// The knobs and switches, the same boxes on both panels, then any others.
+template <const Adf& S, class Decl, class... More>
+constexpr auto with_adf_areas(const Decl& gauge, More... more) {
+    using namespace def;
+    return gauge.mouse(repeat(47, 50, 25, 33, kCursorUp, knob<S, &Adf::a_up>),
+                       repeat(22, 50, 25, 33, kCursorDown, knob<S, &Adf::a_down>),
+                       repeat(100, 73, 25, 33, kCursorUp, knob<S, &Adf::b_up>),
+                       repeat(75, 73, 25, 33, kCursorDown, knob<S, &Adf::b_down>),
+                       repeat(152, 50, 25, 33, kCursorUp, right_knob<S, &Adf::c_up, &Adf::fine_up>),
+                       repeat(127, 50, 25, 33, kCursorDown, right_knob<S, &Adf::c_down, &Adf::fine_down>),
+                       click(85, 40, 42, 18, kCursorHand, fine_toggle<S>),
+                       click(52, 13, 28, 13, kCursorDown, left_switch<S, 0>),
+                       click(52, 0, 28, 13, kCursorUp, left_switch<S, 1>),
+                       click(114, 0, 28, 13, kCursorHand, right_switch<S, 1>),
+                       click(114, 13, 28, 13, kCursorHand, right_switch<S, 0>), more...);
+}
 }  // namespace
 
 f64 KCALL kestrane::radios::adf2_thousands_y(Element* e) {
     return drum_y<kAdf2, 4>(e);
 }
 
-constexpr auto kAdf1Areas = kAreas<kAdf1>;
-constexpr auto kAdf2Areas = kAreas<kAdf2>;
+KESTRANE_GAUGE(radios_adf1,
+               with_adf_areas<kAdf1>(gauge("kestrane radios_adf1_jm47", 196, update<kAdf1>)
+                                         .elements(image(8768, 0x4001),             // e0
+                                                   icon(8800, 62, 0, 0x40000003),   // e1 left switch up
+                                                   icon(8816, 62, 9, 0x40000003),   // e2 left switch down
+                                                   icon(8800, 124, 0, 0x40000003),  // e3 right switch up
+                                                   icon(8816, 124, 9, 0x40000003),  // e4 right switch down
+                                                   drum<kAdf1, 0>(8576, 146, 41,
+                                                                  kHiddenDrum),     // e5 tenths, on demand
+                                                   drum<kAdf1, 1>(8784, 126, 39),   // e6 units
+                                                   drum<kAdf1, 2>(8576, 106, 41),   // e7 tens
+                                                   drum<kAdf1, 3>(8576, 86, 41),    // e8 hundreds
+                                                   drum<kAdf1, 4>(9216, 66, 41))))  // e9 thousands
 
-KESTRANE_GAUGE(radios_adf1, gauge("kestrane radios_adf1_jm47", 196, update<kAdf1>)
-                                .elements(image(8768, 0x4001),                        // e0
-                                          icon(8800, 62, 0, 0x40000003),              // e1 left switch up
-                                          icon(8816, 62, 9, 0x40000003),              // e2 left switch down
-                                          icon(8800, 124, 0, 0x40000003),             // e3 right switch up
-                                          icon(8816, 124, 9, 0x40000003),             // e4 right switch down
-                                          drum<kAdf1, 0>(8576, 146, 41, 0x40004003),  // e5 tenths, on demand
-                                          drum<kAdf1, 1>(8784, 126, 39),              // e6 units
-                                          drum<kAdf1, 2>(8576, 106, 41),              // e7 tens
-                                          drum<kAdf1, 3>(8576, 86, 41),               // e8 hundreds
-                                          drum<kAdf1, 4>(9216, 66, 41))               // e9 thousands
-                                .mouse(kAdf1Areas[0], kAdf1Areas[1], kAdf1Areas[2], kAdf1Areas[3],
-                                       kAdf1Areas[4], kAdf1Areas[5], kAdf1Areas[6], kAdf1Areas[7],
-                                       kAdf1Areas[8], kAdf1Areas[9], kAdf1Areas[10]))
-
-KESTRANE_GAUGE(radios_adf2,
-               gauge("kestrane radios_adf2_jm47", 196, update<kAdf2>)
-                   .elements(image(8768, 0x4001),                            // e0
-                             icon(8800, 62, 0, 0x40000003),                  // e1 left switch up
-                             icon(8816, 62, 9, 0x40000003),                  // e2 left switch down
-                             icon(8800, 124, 0, 0x40000003),                 // e3 right switch up
-                             icon(8816, 124, 9, 0x40000003),                 // e4 right switch down
-                             icon(9248, 120, 77, 0x40004003),                // e5 where the COM 2 toggle lies
-                             drum<kAdf2, 0>(8576, 146, 41, 0x40004003),      // e6 tenths, on demand
-                             drum<kAdf2, 1>(8784, 126, 39),                  // e7 units
-                             drum<kAdf2, 2>(8576, 106, 41),                  // e8 tens
-                             drum<kAdf2, 3>(8576, 86, 41),                   // e9 hundreds
-                             moving(9216, 66, 41, kDrumFlags, drum_fixed_x,  // e10 thousands
-                                    radios::adf2_thousands_y, 0.0, 1.0, 0.0, 2.0))
-                   .mouse(kAdf2Areas[0], kAdf2Areas[1], kAdf2Areas[2], kAdf2Areas[3], kAdf2Areas[4],
-                          kAdf2Areas[5], kAdf2Areas[6], kAdf2Areas[7], kAdf2Areas[8], kAdf2Areas[9],
-                          kAdf2Areas[10], click(127, 87, 55, 55, kCursorHand, toggle_com2_window)))
+KESTRANE_GAUGE(
+    radios_adf2,
+    with_adf_areas<kAdf2>(gauge("kestrane radios_adf2_jm47", 196, update<kAdf2>)
+                              .elements(image(8768, 0x4001),              // e0
+                                        icon(8800, 62, 0, 0x40000003),    // e1 left switch up
+                                        icon(8816, 62, 9, 0x40000003),    // e2 left switch down
+                                        icon(8800, 124, 0, 0x40000003),   // e3 right switch up
+                                        icon(8816, 124, 9, 0x40000003),   // e4 right switch down
+                                        icon(9248, 120, 77, 0x40004003),  // e5 where the COM 2 toggle lies
+                                        drum<kAdf2, 0>(8576, 146, 41, kHiddenDrum),  // e6 tenths, on demand
+                                        drum<kAdf2, 1>(8784, 126, 39),               // e7 units
+                                        drum<kAdf2, 2>(8576, 106, 41),               // e8 tens
+                                        drum<kAdf2, 3>(8576, 86, 41),                // e9 hundreds
+                                        moving(9216, 66, 41, kDrumFlags, drum_fixed_x,  // e10 thousands
+                                               radios::adf2_thousands_y, 0.0, 1.0, 0.0, 2.0)),
+                          click(127, 87, 55, 55, kCursorHand, toggle_com2_window)))

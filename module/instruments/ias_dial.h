@@ -13,6 +13,8 @@ inline constexpr u32 kBug1Bitmap = 44432;
 inline constexpr u32 kBug2Bitmap = 44448;
 inline constexpr u32 kNeedleFlags = 0x4003;
 inline constexpr i32 kPivotX = 103, kPivotY = 101;
+// where each needle bitmap turns about
+inline constexpr i32 kSpeedRefX = 5, kSpeedRefY = 80, kBugRefX = 4, kBugRefY = 88;
 
 inline NeedlePoint speed_scale[] = {
     {103, 21, 0, 0},    {130, 26, 60, 0},   {151, 37, 70, 0},   {167, 53, 80, 0},  {183, 95, 100, 0},

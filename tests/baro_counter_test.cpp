@@ -32,16 +32,4 @@ TEST(BaroCounter, SplitsIntoDigitsKeepingTheFraction) {
     }
 }
 
-TEST(BaroCounter, DigitsRollToAFractionalUnitAndSettle) {
-    Drum d = digit_drum();
-    f64 digit[4];
-    split4(1019.5, digit);
-    d.target = digit[3];
-    // from 0 to 9.5 the short way, back over the top
-    EXPECT_NEAR(drum_step(d), 9.9, 1e-9);
-    EXPECT_NEAR(drum_step(d), 9.65, 1e-9);
-    EXPECT_EQ(drum_step(d), 9.5);
-    EXPECT_EQ(drum_step(d), 9.5);
-}
-
 }  // namespace

@@ -127,8 +127,8 @@ KESTRANE_GAUGE(
     montre,
     gauge("kestrane montre_jm47", 256, update)
         .elements(image(42896, 0x4001),               // e0 dial
-                  icon(44352, 94, 243, 0x3),          // e1
-                  icon(44368, 25, 217, 0x3),          // e2
+                  icon(44352, 94, 243, 0x3),          // e1 fixed image
+                  icon(44368, 25, 217, 0x3),          // e2 fixed image
                   icon(44384, 207, 193, 0x3),         // e3 set mode off
                   icon(44400, 207, 193, 0x40000003),  // e4 set mode on
                   sprite(44416, 12, 12, 0, 0, 0x4003, 116, 116, fixed, fixed, bezel_angle),  // e5 bezel

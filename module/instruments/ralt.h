@@ -47,7 +47,7 @@ constexpr auto layout(G g, ValueCallback dh_bug, ValueCallback height) {
                   needle(44128, 105, 88, 4, 12, kNeedleFlags, dh_bug, dh_scale),      // e1 DH bug
                   needle(44144, 105, 88, 4, 60, kNeedleFlags, height, height_scale),  // e2 height
                   icon(44160, 111, 33, kHiddenIcon),                                  // e3 OFF flag
-                  icon(44176, 94, 16, 0x3),                                           // e4 needle cap
+                  icon(44176, 94, 16, 0x3),                                           // e4 fixed image
                   icon(44192, 24, 148, kHiddenIcon),                                  // e5 DH light
                   icon(44208, 165, 8, kHiddenIcon),                                   // e6 warm-up
                   icon(44224, 165, 8, kHiddenIcon))                                   // e7 test

@@ -38,7 +38,7 @@ void chrono_cycle(Chrono& c, f64 t) {
             c.seconds = trunc_to<u32>(t - static_cast<f64>(c.base));
         if (c.seconds >= 60) {
             c.minutes = c.minutes >= kChronoTopMinute ? 0 : c.minutes + 1;
-            c.base += 60;
+            c.base = trunc_to<i32>(static_cast<f64>(c.base) + 60.0);
             c.seconds = 0;
         }
     }

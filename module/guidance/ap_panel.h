@@ -323,7 +323,7 @@ inline NeedlePoint knob_scale[] = {{97, 33, -40, 0}, {99, 14, -25, 0}, {101, 12,
                                    {119, 33, 40, 0}};
 
 inline f64 KCALL knob_needle(Element*) {
-    return static_cast<f64>(ac.ap_bank_cmd);
+    return clamp_back(ac.ap_bank_cmd, -40.0, 40.0);
 }
 
 // The controller as declared, the same on both gauges but for its

@@ -19,6 +19,8 @@ bool ess_powered() {
 
 // Moves `v` toward `target` by `step` a cycle; within `band` it takes the target.
 void approach(f32& v, f64 target, f64 step, f64 band) {
+    if (!(target == target))
+        return;  // no reading from the host: hold
     const f64 now = v;
     if (now >= target - band && now <= target + band)
         v = static_cast<f32>(target);

@@ -117,6 +117,7 @@ Host::~Host() {
 
 void Host::reset_tables() {
     installed_.clear();
+    drawn_.clear();
     gauge_by_name_.clear();
     field_by_name_.clear();
     tokens_.assign(kDirectTokens, std::array<u8, 8>{});
@@ -190,6 +191,8 @@ void Host::install(GaugeHeader* g) {
     if (g == nullptr || installed(g))
         return;
     installed_.push_back(g);
+    for (Drawn& d : drawn_[g])
+        d.have = 0;
     if (g->callback)
         g->callback(g, 2, reinterpret_cast<std::uintptr_t>(module_ ? module_->handle() : nullptr));
     tag_sounds();
@@ -274,44 +277,76 @@ void Host::run(int cycles) {
 }
 
 void Host::draw(GaugeHeader* g) {
-    if (g && g->elements)
-        draw_element(g->elements[0], 0);
+    if (g == nullptr || g->elements == nullptr)
+        return;
+    std::vector<Drawn>& slots = drawn_[g];
+    std::size_t at = 0;
+    draw_element(g->elements[0], 0, slots, at);
 }
 
-void Host::draw_element(Element* e, int depth) {
+u8 element_callbacks(const Element* e) {
+    if (e == nullptr)
+        return 0;
+    auto bit = [](auto cb, u8 b) { return cb != nullptr ? b : u8{0}; };
+    switch (e->kind) {
+        case kNeedle:
+            return bit(e->u.needle.callback, Drawn::kX);
+        case kString:
+            return bit(e->u.str.callback, Drawn::kText);
+        case kSlider:
+            return bit(e->u.slider.callback_x, Drawn::kX) | bit(e->u.slider.callback_y, Drawn::kY);
+        case kMovingImage:
+            return bit(e->u.moving.callback_x, Drawn::kX) | bit(e->u.moving.callback_y, Drawn::kY);
+        case kSprite:
+            return bit(e->u.sprite.callback_x, Drawn::kX) | bit(e->u.sprite.callback_y, Drawn::kY) |
+                   bit(e->u.sprite.callback_rot, Drawn::kRotation);
+        default:
+            return 0;
+    }
+}
+
+void Host::draw_element(Element* e, int depth, std::vector<Drawn>& slots, std::size_t& at) {
     if (e == nullptr || depth > 256)
         return;
+    if (slots.size() <= at)
+        slots.resize(at + 1);
+    Drawn& d = slots[at++];
+    auto value = [&](ValueCallback cb, int i) {
+        if (cb == nullptr)
+            return;
+        d.value[i] = cb(e);
+        d.have |= static_cast<u8>(1u << i);
+    };
     if ((e->flags & kHidden) == 0) {
         switch (e->kind) {
             case kNeedle:
                 if (e->u.needle.callback)
-                    e->u.needle.callback(e);
+                    value(e->u.needle.callback, 0);
                 else if (e->u.needle.source.id)
                     svc_lookup_var(&e->u.needle.source);
                 break;
             case kString:
-                if (e->u.str.callback)
+                if (e->u.str.callback) {
                     e->u.str.callback(e);
+                    const char* t = e->u.str.text;
+                    const char* end =
+                        t ? static_cast<const char*>(std::memchr(t, 0, e->u.str.char_count + 1)) : t;
+                    d.text.assign(t ? t : "", t ? (end ? end : t + e->u.str.char_count + 1) - t : 0);
+                    d.have |= Drawn::kText;
+                }
                 break;
             case kSlider:
-                if (e->u.slider.callback_x)
-                    e->u.slider.callback_x(e);
-                if (e->u.slider.callback_y)
-                    e->u.slider.callback_y(e);
+                value(e->u.slider.callback_x, 0);
+                value(e->u.slider.callback_y, 1);
                 break;
             case kMovingImage:
-                if (e->u.moving.callback_x)
-                    e->u.moving.callback_x(e);
-                if (e->u.moving.callback_y)
-                    e->u.moving.callback_y(e);
+                value(e->u.moving.callback_x, 0);
+                value(e->u.moving.callback_y, 1);
                 break;
             case kSprite:
-                if (e->u.sprite.callback_x)
-                    e->u.sprite.callback_x(e);
-                if (e->u.sprite.callback_y)
-                    e->u.sprite.callback_y(e);
-                if (e->u.sprite.callback_rot)
-                    e->u.sprite.callback_rot(e);
+                value(e->u.sprite.callback_x, 0);
+                value(e->u.sprite.callback_y, 1);
+                value(e->u.sprite.callback_rot, 2);
                 break;
             default:
                 break;
@@ -319,7 +354,35 @@ void Host::draw_element(Element* e, int depth) {
     }
     if (e->children)
         for (Element** c = e->children; *c != nullptr; ++c)
-            draw_element(*c, depth + 1);
+            draw_element(*c, depth + 1, slots, at);
+}
+
+namespace {
+// Preorder position of `target` in the tree under `e`, as the drawing counts.
+bool find_slot(const Element* e, const Element* target, int depth, std::size_t& at) {
+    if (e == nullptr || depth > 256)
+        return false;
+    if (e == target)
+        return true;
+    ++at;
+    if (e->children)
+        for (Element** c = e->children; *c != nullptr; ++c)
+            if (find_slot(*c, target, depth + 1, at))
+                return true;
+    return false;
+}
+}  // namespace
+
+const Drawn* Host::drawn(GaugeHeader* g, const Element* e) const {
+    if (g == nullptr || g->elements == nullptr || e == nullptr)
+        return nullptr;
+    auto it = drawn_.find(g);
+    if (it == drawn_.end())
+        return nullptr;
+    std::size_t at = 0;
+    if (!find_slot(g->elements[0], e, 0, at) || at >= it->second.size())
+        return nullptr;
+    return &it->second[at];
 }
 
 // ---------------------------------------------------------------- mouse
@@ -602,6 +665,18 @@ Element* Host::element(GaugeHeader* g, int n) {
     for (int i = 0; i < n && e != nullptr; ++i)
         e = e->children ? e->children[0] : nullptr;
     return e;
+}
+
+Element* Host::element(GaugeHeader* g, int n, int branch) {
+    Element* e = element(g, n);
+    if (branch <= 0 || e == nullptr)
+        return branch == 0 ? e : nullptr;
+    if (e->children == nullptr || e->children[0] == nullptr)
+        return nullptr;
+    for (int k = 1; e->children[k] != nullptr; ++k)
+        if (k == branch)
+            return e->children[k];
+    return nullptr;
 }
 
 int Host::chain_length(GaugeHeader* g) {

@@ -23,6 +23,18 @@ struct KeyEvent {
     u32 value;
 };
 
+// What one element showed when its gauge was last drawn: the values its
+// value callbacks returned and the text its string callback left.
+struct Drawn {
+    enum : u8 { kX = 1, kY = 2, kRotation = 4, kText = 8 };
+    u8 have = 0;     // which of the above were drawn since install
+    f64 value[3]{};  // needle value or x, then y, then rotation
+    std::string text;
+};
+
+// The callbacks an element's kind has, as Drawn bits (a needle's value is kX).
+u8 element_callbacks(const Element* e);
+
 // One loaded copy of the module library.
 class Module {
 public:
@@ -134,8 +146,12 @@ public:
     bool set_field(std::string_view name, f64 value);
     const FieldTable* field_table() const { return module_ ? module_->fields() : nullptr; }
 
-    // Elements by chain number (e0 background).
+    // Elements by chain number (e0 background); branch k >= 1 is the k-th
+    // entry of en's child list after the chain's continuation.
     static Element* element(GaugeHeader* g, int n);
+    static Element* element(GaugeHeader* g, int n, int branch);
+    // What `e` of `g` showed when g was last drawn (null: not drawn since install).
+    const Drawn* drawn(GaugeHeader* g, const Element* e) const;
     static int chain_length(GaugeHeader* g);
     static int child_rows(GaugeHeader* g);
 
@@ -151,7 +167,7 @@ public:
 private:
     void reset_tables();
     void store_token(u32 id, const void* bytes, std::size_t n);
-    void draw_element(Element* e, int depth);
+    void draw_element(Element* e, int depth, std::vector<Drawn>& slots, std::size_t& at);
     void window_set(u32 ident, bool open);
 
     std::string module_path_;
@@ -160,6 +176,8 @@ private:
     HostServices services_{};
 
     std::vector<GaugeHeader*> installed_;
+    // Per gauge, the drawn values of its elements in drawing (preorder) order.
+    std::unordered_map<const GaugeHeader*, std::vector<Drawn>> drawn_;
     std::unordered_map<std::string_view, int> gauge_by_name_;
     std::unordered_map<std::string_view, const FieldInfo*> field_by_name_;
 

@@ -245,6 +245,114 @@ private:
 constexpr double kU32Max = 4294967295.0;
 constexpr double kIntMax = 2147483647.0;
 
+const char* kind_name(u32 kind) {
+    switch (kind) {
+        case kStaticImage:
+            return "a static image";
+        case kNeedle:
+            return "a needle";
+        case kString:
+            return "a string";
+        case kSlider:
+            return "a slider";
+        case kIcon:
+            return "an icon";
+        case kMovingImage:
+            return "a moving image";
+        case kSprite:
+            return "a sprite";
+    }
+    return "an element of unknown kind";
+}
+
+std::string element_text(int n, int branch) {
+    return "e" + fmt(n) + (branch > 0 ? "." + fmt(branch) : "");
+}
+
+// An element of gauge `g`: N along the chain, or N.K for the K-th branch of eN.
+Element* element_ref(Line& l, const Host& host, int g, Command& c) {
+    std::string ref = l.word("an element number (N or N.K)");
+    if (!l.ok() || g < 0)
+        return nullptr;
+    std::size_t dot = ref.find('.');
+    double n = 0, k = 0;
+    bool good = parse_number(ref.substr(0, dot), n) && n == std::trunc(n) && n >= 0 && n <= kIntMax;
+    if (good && dot != std::string::npos)
+        good = parse_number(ref.substr(dot + 1), k) && k == std::trunc(k) && k >= 1 && k <= kIntMax &&
+               ref.find_first_not_of("0123456789", dot + 1) == std::string::npos;
+    if (!good || ref.find_first_not_of("0123456789.") != std::string::npos) {
+        l.fail("bad element '" + ref + "': expected N or N.K (branches count from 1)");
+        return nullptr;
+    }
+    c.n = static_cast<int>(n);
+    c.branch = static_cast<int>(k);
+    GaugeHeader* gh = host.gauge(g);
+    Element* e = Host::element(gh, c.n, c.branch);
+    if (e == nullptr) {
+        if (c.branch > 0 && Host::element(gh, c.n) != nullptr)
+            l.fail("element e" + fmt(c.n) + " of \"" + gh->name + "\" has no branch " + fmt(c.branch));
+        else
+            l.fail("gauge \"" + std::string(gh->name) + "\" has no element e" + fmt(c.n));
+    }
+    return e;
+}
+
+// expect value "G" N [x|y|rotation] OP V, expect text "G" N "TEXT": the
+// element must have the callback that is checked.
+void parse_drawn(Line& l, Command& c, const Host& host, bool text) {
+    int g = l.gauge();
+    c.gauges.push_back(g);
+    Element* e = element_ref(l, host, g, c);
+    if (!l.ok())
+        return;
+    const u8 have = element_callbacks(e);
+    const std::string what =
+        element_text(c.n, c.branch) + " of \"" + host.gauge(g)->name + "\" is " + kind_name(e->kind);
+    if (text) {
+        c.kind = CmdKind::ExpectText;
+        if (e->kind != kString)
+            l.fail(what + ", not a string: check it with expect value or expect shown");
+        else if ((have & Drawn::kText) == 0)
+            l.fail(what + " without a string callback");
+        else
+            c.name = l.quoted("the text");
+        return;
+    }
+    c.kind = CmdKind::ExpectValue;
+    static const char* const axes[] = {"x", "y", "rotation"};
+    int axis = -1;
+    for (int i = 0; i < 3 && axis < 0; ++i)
+        if (l.keyword(axes[i]))
+            axis = i;
+    switch (e->kind) {
+        case kNeedle:
+            if (axis >= 0)
+                l.fail(what + ": its value has no axis, write expect value \"G\" N OP V");
+            else if ((have & Drawn::kX) == 0)
+                l.fail(what + " without a value callback");
+            axis = 0;
+            break;
+        case kSlider:
+        case kMovingImage:
+        case kSprite:
+            if (axis < 0)
+                l.fail(what + ": name the callback to check, x or y" +
+                       std::string(e->kind == kSprite ? " or rotation" : ""));
+            else if (axis == 2 && e->kind != kSprite)
+                l.fail(what + ": only sprites have a rotation");
+            else if ((have & (1u << axis)) == 0)
+                l.fail(what + " without a " + axes[axis] + " callback");
+            break;
+        case kString:
+            l.fail(what + ": check its text with expect text");
+            break;
+        default:
+            l.fail(what + ", which has no value callback");
+            break;
+    }
+    c.axis = axis < 0 ? 0 : axis;
+}
+
 void parse_expect(Line& l, Command& c, const Host& host) {
     if (l.keyword("no")) {
         if (l.keyword("events")) {
@@ -273,7 +381,13 @@ void parse_expect(Line& l, Command& c, const Host& host) {
                 l.fail("bad number '" + fmt(c.tolerance) + "' for the tolerance: it cannot be negative");
         }
     };
-    if (l.keyword("token")) {
+    if (l.keyword("value")) {
+        parse_drawn(l, c, host, false);
+        if (l.ok())
+            value_check(CmdKind::ExpectValue);
+    } else if (l.keyword("text")) {
+        parse_drawn(l, c, host, true);
+    } else if (l.keyword("token")) {
         c.id = static_cast<u32>(l.whole("a token number", 0, kU32Max));
         value_check(CmdKind::ExpectToken);
     } else if (l.keyword("named")) {
@@ -284,7 +398,10 @@ void parse_expect(Line& l, Command& c, const Host& host) {
         c.kind = CmdKind::ExpectEvent;
         if (l.keyword("value")) {
             c.kind = CmdKind::ExpectEventValue;
-            c.value = l.whole("an event value", 0, kU32Max);
+            // a negative value stands for the same 32 bits signed
+            c.value = l.whole("an event value", -2147483648.0, kU32Max);
+            if (c.value < 0)
+                c.value += 4294967296.0;
         } else if (l.keyword("count")) {
             c.kind = CmdKind::ExpectEventCount;
             c.n = static_cast<int>(l.whole("a count", 0, kIntMax));
@@ -438,9 +555,7 @@ bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host, 
             l.word("shown or hidden");
             int g = l.gauge();
             c.gauges.push_back(g);
-            c.n = static_cast<int>(l.whole("an element number", 0, kIntMax));
-            if (l.ok() && Host::element(host.gauge(g), c.n) == nullptr)
-                l.fail("gauge \"" + std::string(host.gauge(g)->name) + "\" has no element e" + fmt(c.n));
+            element_ref(l, host, g, c);
         } else {
             parse_expect(l, c, host);
         }
@@ -651,15 +766,20 @@ void Runner::execute(const Command& c) {
             break;
         case CmdKind::ExpectShown:
         case CmdKind::ExpectHidden: {
-            Element* e = Host::element(g, c.n);
+            Element* e = Host::element(g, c.n, c.branch);
             bool shown = e != nullptr && (e->flags & kHidden) == 0;
             bool want = c.kind == CmdKind::ExpectShown;
             pass = shown == want;
             if (!pass)
-                fail(c, "e" + fmt(c.n) + " of \"" + g->name + "\" " + (want ? "shown" : "hidden"),
+                fail(c,
+                     element_text(c.n, c.branch) + " of \"" + g->name + "\" " + (want ? "shown" : "hidden"),
                      shown ? "shown" : "hidden");
             break;
         }
+        case CmdKind::ExpectValue:
+        case CmdKind::ExpectText:
+            pass = check_drawn(c, g);
+            break;
         case CmdKind::ExpectWindowOpen:
         case CmdKind::ExpectWindowClosed: {
             bool open = host_.window_open(c.id);
@@ -672,6 +792,34 @@ void Runner::execute(const Command& c) {
     }
     if (pass)
         ++totals_.passed;
+}
+
+bool Runner::check_drawn(const Command& c, GaugeHeader* g) {
+    static const char* const axes[] = {" x", " y", " rotation"};
+    const Element* e = Host::element(g, c.n, c.branch);
+    const Drawn* d = host_.drawn(g, e);
+    const bool axis = c.kind == CmdKind::ExpectValue && e->kind != kNeedle;
+    std::string what = (c.kind == CmdKind::ExpectText ? "text of " : "value of ") +
+                       element_text(c.n, c.branch) + (axis ? axes[c.axis] : "") + " of \"" + g->name + "\"";
+    const u8 bit = c.kind == CmdKind::ExpectText ? static_cast<u8>(Drawn::kText) : static_cast<u8>(1u << c.axis);
+    if (d == nullptr || (d->have & bit) == 0) {
+        fail(c, what, "not drawn since the gauge was installed");
+        return false;
+    }
+    if (c.kind == CmdKind::ExpectText) {
+        if (d->text == c.name)
+            return true;
+        fail(c, what + " \"" + c.name + "\"", "\"" + d->text + "\"");
+        return false;
+    }
+    const double v = d->value[c.axis];
+    if (compare(v, c.op, c.value, c.tolerance))
+        return true;
+    std::string expected = what + " " + op_text(c.op) + " " + fmt(c.value);
+    if (c.op == CmpOp::Near)
+        expected += " +/- " + fmt(c.tolerance);
+    fail(c, expected, fmt(v));
+    return false;
 }
 
 bool Runner::check_sound(const Command& c) {

@@ -39,6 +39,8 @@ enum class CmdKind {
     ExpectSound,
     ExpectShown,
     ExpectHidden,
+    ExpectValue,
+    ExpectText,
     ExpectWindowOpen,
     ExpectWindowClosed,
 };
@@ -56,6 +58,8 @@ struct Command {
     CmpOp op = CmpOp::Eq;
     SoundCheck sound = SoundCheck::Played;
     int x = 0, y = 0, n = 0;
+    int branch = 0;  // element N.K: K (0 for a chain element)
+    int axis = 0;    // expect value: 0 needle or x, 1 y, 2 rotation
 };
 
 struct Script {
@@ -92,6 +96,7 @@ private:
     void fail(const Command& c, const std::string& expected, const std::string& got);
     int count_event(std::uint32_t id, const double* value) const;
     bool check_sound(const Command& c);
+    bool check_drawn(const Command& c, GaugeHeader* g);
 
     Host& host_;
     RunTotals& totals_;

@@ -218,6 +218,83 @@ TEST_F(Scenario, HoldCallsOnceWithoutRepeatAndRunsEveryCycle) {
     EXPECT_EQ(status, 0) << out;
 }
 
+// expect value / expect text read what each element showed when its gauge
+// was last drawn: needles, both axes of moving images, branch strings.
+TEST_F(Scenario, DrawnValuesAndTexts) {
+    auto f = write("drawn.scn",
+                   "gauges \"testgauge2k\" \"kestrane oil_press_jm47\" \"kestrane eng_throttles_jm47\"\n"
+                   "expect value \"kestrane oil_press_jm47\" 1 == 0\n"  // 2: not drawn yet
+                   "token 905 = 1.5\n"
+                   "token 13 = -2\n"
+                   "set oil_press_disp_lh = 20000\n"
+                   "run 1\n"
+                   "expect text \"testgauge2k\" 0.1 \"1.5000\"\n"
+                   "expect text \"testgauge2k\" 0.4 \"-2.000\"\n"
+                   "expect text \"testgauge2k\" 0.2 \"1\"\n"  // 9
+                   "expect value \"kestrane oil_press_jm47\" 1 == 10000\n"
+                   "expect oil_press_disp_lh == 10000\n"
+                   "expect value \"kestrane oil_press_jm47\" 2 ~= 3 1\n"  // 12
+                   "expect value \"kestrane eng_throttles_jm47\" 5 y >= 0\n"
+                   "expect value \"kestrane eng_throttles_jm47\" 1 x >= 0\n"
+                   "remove \"kestrane oil_press_jm47\"\n"
+                   "gauges \"kestrane oil_press_jm47\"\n"
+                   "expect value \"kestrane oil_press_jm47\" 1 == 10000\n");  // 17
+    auto [status, out] = run({f});
+    EXPECT_EQ(status, 1);
+    const std::string not_drawn = "got not drawn since the gauge was installed";
+    EXPECT_NE(out.find(":2: expected value of e1 of \"kestrane oil_press_jm47\", " + not_drawn),
+              std::string::npos)
+        << out;
+    EXPECT_NE(out.find(":9: expected text of e0.2 of \"testgauge2k\" \"1\", got \"0.0000\""),
+              std::string::npos)
+        << out;
+    EXPECT_NE(out.find(":12: expected value of e2 of \"kestrane oil_press_jm47\" ~= 3 +/- 1, got 0"),
+              std::string::npos)
+        << out;
+    EXPECT_NE(out.find(":17: expected value of e1 of \"kestrane oil_press_jm47\", " + not_drawn),
+              std::string::npos)
+        << out;
+    EXPECT_TRUE(out.ends_with("6 passed, 4 failed\n")) << out;
+}
+
+TEST_F(Scenario, DrawnChecksRejectWhatTheElementCannotShow) {
+    struct Case {
+        const char* text;
+        const char* fragment;
+    } cases[] = {
+        {"expect value \"kestrane oil_press_jm47\" 1 rotation == 0\n", "is a needle: its value has no axis"},
+        {"expect value \"kestrane oil_press_jm47\" 1 x == 0\n", "is a needle: its value has no axis"},
+        {"expect text \"kestrane oil_press_jm47\" 1 \"5\"\n", "is a needle, not a string"},
+        {"expect value \"kestrane oil_press_jm47\" 0 == 0\n",
+         "is a static image, which has no value callback"},
+        {"expect value \"kestrane oil_press_jm47\" 3 == 0\n", "has no element e3"},
+        {"expect value \"testgauge2k\" 0.1 == 0\n", "is a string: check its text with expect text"},
+        {"expect text \"testgauge2k\" 0.5 \"x\"\n", "e0 of \"testgauge2k\" has no branch 5"},
+        {"expect shown \"testgauge2k\" 1.1\n", "has no branch 1"},
+        {"expect text \"testgauge2k\" 0.0 \"x\"\n", "bad element '0.0'"},
+        {"expect text \"testgauge2k\" 0.1x \"x\"\n", "bad element '0.1x'"},
+        {"expect text \"testgauge2k\" 0.1\n", "expected the text in double quotes"},
+        {"expect value \"kestrane eng_throttles_jm47\" 5 == 0\n", "is a moving image: name the callback"},
+        {"expect value \"kestrane eng_throttles_jm47\" 5 rotation == 0\n", "only sprites have a rotation"},
+        {"expect event 1 value -2147483649\n", "bad number"},
+    };
+    for (const Case& c : cases) {
+        ParseError e = parse_error(c.text);
+        EXPECT_EQ(e.line, 1) << c.text;
+        EXPECT_NE(e.message.find(c.fragment), std::string::npos) << c.text << " -> " << e.message;
+    }
+}
+
+TEST_F(Scenario, NegativeEventValueIsTheSame32BitsSigned) {
+    Script s;
+    ParseError e;
+    ASSERT_TRUE(parse_script("x.scn", "expect event 65580 value -8000\nexpect event 65580 value 4294959296\n",
+                             host, s, e))
+        << e.message;
+    EXPECT_EQ(s.commands[0].value, 4294959296.0);
+    EXPECT_EQ(s.commands[1].value, 4294959296.0);
+}
+
 // Every script under tests/bad names its faulty line and message on line 1:
 //   # error: LINE: FRAGMENT
 TEST_F(Scenario, BundledBadScriptsAreRejected) {

@@ -4,6 +4,8 @@
 // HSI owns the selected heading and sets the host's course.
 #include "guidance/hsi.h"
 
+#include <cstdint>
+
 #include "frame/drum.h"
 #include "frame/gauge.h"
 
@@ -30,7 +32,7 @@ bool nav_powered() {
 }
 
 void course_click(i32 step) {
-    const i32 c = nav::course_step(ac.hsi_course, host::read(course), step);
+    const std::int64_t c = nav::course_step(ac.hsi_course, host::read(course), step);
     host::send_event(kSetCourse, static_cast<u32>(c));
     display.course_knob = nav::knob_step(display.course_knob, step);
 }
@@ -56,7 +58,7 @@ void dme_cycle(bool hsi_on) {
     ac.dme_distance = flagged ? 0.0 : d;
 }
 
-void counter_cycle(GaugeHeader*) {
+void counter_cycle() {
     Display& s = display;
     const i32 now = trunc_to<i32>(host::read(tick));
     if (s.counter_request && !s.counter_running) {
@@ -66,7 +68,7 @@ void counter_cycle(GaugeHeader*) {
         s.counter_running = true;
     } else if (s.counter_request) {
         s.counter_running = false;  // restarts the timer next cycle
-    } else if (s.counter_running && now == s.counter_start + kCounterLife) {
+    } else if (s.counter_running && std::int64_t{now} == std::int64_t{s.counter_start} + kCounterLife) {
         ac.hsi_sel_counter_on = 0;
         s.counter_running = false;
     }
@@ -150,7 +152,7 @@ void hsi_cycle(GaugeHeader* g) {
         ac.hsi_hdg_flag = 0;
         dme_shown = nav::dme_digits(ac.dme_distance);
         display.course_target = nav::course_digits(obs);
-        counter_cycle(g);
+        counter_cycle();
     }
 
     // 10. failures
@@ -275,6 +277,7 @@ u32 KCALL dme_select(PixPoint*, u32) {
 
 }  // namespace kestrane::hsi
 
+// The declaration below names the handlers and callbacks above.
 namespace {
 using namespace kestrane::hsi;
 }

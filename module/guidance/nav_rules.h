@@ -4,6 +4,8 @@
 // overview panel's mini HSI.
 #pragma once
 
+#include <cstdint>
+
 #include "frame/convert.h"
 #include "frame/gauge_abi.h"
 
@@ -11,24 +13,26 @@ namespace kestrane::nav {
 
 // Selected heading after one click of the heading knob (step -10, -1, +1 or
 // +10). 350 + 10 gives 360, as the counter then shows.
-constexpr i32 heading_step(i32 bug, i32 step) {
+constexpr i32 heading_step(i32 heading, i32 step) {
+    const std::int64_t bug = heading;  // no overflow whatever the field holds
     switch (step) {
         case -1:
-            return bug == 0 ? 359 : bug - 1;
+            return static_cast<i32>(bug == 0 ? 359 : bug - 1);
         case 1:
-            return bug == 359 ? 0 : bug + 1;
+            return static_cast<i32>(bug == 359 ? 0 : bug + 1);
         case -10:
-            return bug < 10 ? 350 + bug : bug - 10;
+            return static_cast<i32>(bug < 10 ? 350 + bug : bug - 10);
         case 10:
-            return bug < 351 ? bug + 10 : bug - 350;
+            return static_cast<i32>(bug < 351 ? bug + 10 : bug - 350);
         default:
-            return bug;
+            return heading;
     }
 }
 
 // Course sent to the host for one click of the course knob; `course` is the
-// whole-degree course, `obs` the host's course as it reads now.
-constexpr i32 course_step(i32 course, f64 obs, i32 step) {
+// whole-degree course, `obs` the host's course as it reads now. Wide, so that
+// no course overflows; the event carries the low 32 bits.
+constexpr std::int64_t course_step(std::int64_t course, f64 obs, i32 step) {
     switch (step) {
         case -1:
             return obs == 0.0 ? 359 : course - 1;

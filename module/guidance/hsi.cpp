@@ -151,7 +151,10 @@ void hsi_cycle(GaugeHeader* g) {
     if (hsi_on) {
         ac.hsi_hdg_flag = 0;
         dme_shown = nav::dme_digits(ac.dme_distance);
-        display.course_target = nav::course_digits(obs);
+        const nav::DmeDigits c = nav::course_digits(obs);
+        drum_aim(display.course_drum[0], c.hundreds);
+        drum_aim(display.course_drum[1], c.tens);
+        drum_aim(display.course_drum[2], c.units);
         counter_cycle();
     }
 
@@ -199,10 +202,7 @@ f64 KCALL bug_angle(Element*) {
 }
 template <int N>
 f64 KCALL course_digit(Element*) {
-    const f64 target[3] = {display.course_target.hundreds, display.course_target.tens,
-                           display.course_target.units};
-    display.course_drum[N] = drum_roll(display.course_drum[N], target[N], 10);
-    return display.course_drum[N];
+    return drum_step(display.course_drum[N]);
 }
 f64 KCALL dme_hundreds(Element*) {
     return clamp_back(dme_shown.hundreds, 0.0, 10.0);

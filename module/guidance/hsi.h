@@ -3,6 +3,7 @@
 // handlers.
 #pragma once
 
+#include "frame/drum.h"
 #include "frame/gauge_abi.h"
 #include "guidance/nav_rules.h"
 
@@ -11,8 +12,7 @@ namespace kestrane::hsi {
 struct Display {
     u16 course_knob = 0;  // knob image angles, 0..360 in steps of 5
     u16 heading_knob = 0;
-    f64 course_drum[3] = {0.0, 0.0, 0.0};  // hundreds, tens, units as drawn
-    nav::DmeDigits course_target{};
+    Drum course_drum[3] = {{0.0, 0.0, 10}, {0.0, 0.0, 10}, {0.0, 0.0, 10}};  // hundreds, tens, units
     // selected-heading counter
     i32 counter_start = 0;
     bool counter_running = false;

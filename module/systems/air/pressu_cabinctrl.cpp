@@ -22,6 +22,12 @@ Magnifier alt_magnifier{}, baro_magnifier{};
 
 constexpr f64 kMagnifierTicks = 50.0;
 
+// The barometric setting steps in whole hundredths of an inch.
+i32 hundredths(f32 inches) {
+    const f64 v = static_cast<f64>(inches) * 100.0;
+    return trunc_to<i32>(v < 0.0 ? v - 0.5 : v + 0.5);
+}
+
 u32 KCALL alt_down(PixPoint*, u32) {
     if (ac.air_cabin_alt_sel > -1000)
         ac.air_cabin_alt_sel = static_cast<i16>(ac.air_cabin_alt_sel - 100);
@@ -45,14 +51,16 @@ u32 KCALL rate_up(PixPoint*, u32) {
     return 0;
 }
 u32 KCALL baro_down(PixPoint*, u32) {
-    if (baro >= 27.91f)
-        baro = static_cast<f32>(static_cast<f64>(baro) - 0.01);
+    const i32 h = hundredths(baro);
+    if (h >= 2791)
+        baro = static_cast<f32>((h - 1) / 100.0);
     baro_magnifier.request = 1;
     return 0;
 }
 u32 KCALL baro_up(PixPoint*, u32) {
-    if (baro < 31.94f)
-        baro = static_cast<f32>(static_cast<f64>(baro) + 0.01);
+    const i32 h = hundredths(baro);
+    if (h < 3194)
+        baro = static_cast<f32>((h + 1) / 100.0);
     baro_magnifier.request = 1;
     return 0;
 }

@@ -23,18 +23,25 @@ struct Zone {
 ModuleVar oat = token(341);
 u8 lights[4] = {};
 
-Zone cockpit{
-    kAuto, 2, 2, 3, ac.air_cond_sel_ckpt, ac.air_cond_set_ckpt, ac.air_cond_temp_ckpt, ac.air_duct_temp_ckpt,
-    1};
-Zone cabin{kAuto,
-           4,
-           4,
-           5,
-           ac.air_cond_sel_cabin,
-           ac.air_cond_set_cabin,
-           ac.air_cond_temp_cabin,
-           ac.air_duct_temp_cabin,
-           5};
+// At load: automatic, both latches on their colder side.
+Zone cockpit{.mode_sw = kAuto,
+             .latch = 2,
+             .colder_cmd = 2,
+             .warmer_cmd = 3,
+             .selector = ac.air_cond_sel_ckpt,
+             .set = ac.air_cond_set_ckpt,
+             .temp = ac.air_cond_temp_ckpt,
+             .duct = ac.air_duct_temp_ckpt,
+             .first_image = 1};
+Zone cabin{.mode_sw = kAuto,
+           .latch = 4,
+           .colder_cmd = 4,
+           .warmer_cmd = 5,
+           .selector = ac.air_cond_sel_cabin,
+           .set = ac.air_cond_set_cabin,
+           .temp = ac.air_cond_temp_cabin,
+           .duct = ac.air_duct_temp_cabin,
+           .first_image = 5};
 
 template <Zone& Z>
 u32 KCALL to_auto(PixPoint*, u32) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <vector>
 
 #include "host/host.h"
@@ -60,6 +61,33 @@ TEST(Drum, OnlyTopDigitAndZeroAreNeighbours) {
     // on the way to 9, told 0: on over the top
     expect_path(roll(9.5, 9.0, 10, 2), {9.25, 9.0});
     expect_path(roll(9.65, 0.0, 10, 2), {9.9, 0.0});
+}
+
+TEST(Drum, EightDigitTransponderDrumWrapsBetweenSevenAndZero) {
+    expect_path(roll(0.0, 7.0, 8, 5), {7.9, 7.65, 7.4, 7.15, 7.0});
+    expect_path(roll(7.0, 0.0, 8, 5), {7.25, 7.5, 7.75, 8.0, 0.0});
+    expect_path(roll(7.0, 1.0, 8, 2), {6.75, 6.5});
+}
+
+TEST(Drum, HostDigitsOffTheStripAreKeptOnIt) {
+    Drum d{3.0, 0.0, 10};
+    drum_aim(d, std::numeric_limits<f64>::quiet_NaN());
+    EXPECT_EQ(d.target, 0.0);
+    drum_aim(d, -4.0);
+    EXPECT_EQ(d.target, 0.0);
+    drum_aim(d, 15.0);  // a bad BCD nibble
+    EXPECT_NEAR(d.target, 9.9, 1e-12);
+    drum_aim(d, 9.5);  // a tenths drum half way to 0 stays there
+    EXPECT_EQ(d.target, 9.5);
+    Drum two{0.0, 0.0, 2};
+    drum_aim(two, 10.0);
+    EXPECT_NEAR(two.target, 1.9, 1e-12);
+    // a position spoiled from outside is brought back on the strip first
+    Drum spoiled{std::numeric_limits<f64>::quiet_NaN(), 5.0, 10};
+    EXPECT_EQ(drum_step(spoiled), 0.0);
+    spoiled.pos = 1e9;
+    EXPECT_EQ(drum_step(spoiled), 10.0);
+    EXPECT_EQ(drum_step(spoiled), 9.75);
 }
 
 // The fuel-used counter, read as the host reads it when it draws the gauge.

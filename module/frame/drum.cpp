@@ -26,8 +26,23 @@ f64 drum_roll(f64 pos, f64 target, i32 positions) {
 }
 
 f64 drum_step(Drum& d) {
-    d.pos = drum_roll(d.pos, d.target, d.positions);
-    return d.pos;
+    const f64 top = static_cast<f64>(d.positions);
+    f64 pos = drum_roll(d.pos, d.target, d.positions);
+    if (!(pos >= 0.0))
+        pos = 0.0;
+    if (pos > top)
+        pos = top;
+    d.pos = pos;
+    return pos;
+}
+
+void drum_aim(Drum& d, f64 digit) {
+    const f64 last = static_cast<f64>(d.positions) - 0.1;  // the wrap point
+    if (!(digit >= 0.0))
+        digit = 0.0;
+    if (digit > last)
+        digit = last;
+    d.target = digit;
 }
 
 }  // namespace kestrane

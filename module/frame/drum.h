@@ -22,7 +22,17 @@ struct Drum {
 // Where a drum at `pos` stands after one more draw toward `target`.
 f64 drum_roll(f64 pos, f64 target, i32 positions);
 
-// Moves `d` by one draw and returns its new position.
+// Moves `d` by one draw and returns its new position, kept on the strip
+// (0 up to `positions`, the top digit rolled fully over).
 f64 drum_step(Drum& d);
+
+// Aims `d` at a digit read from the host: NaN aims at 0, and a digit off the
+// strip (a bad BCD nibble, a frequency out of band) at its nearest end.
+void drum_aim(Drum& d, f64 digit);
+
+// The x value callback of a drum: drums move along y only.
+inline f64 KCALL drum_fixed_x(Element*) {
+    return 1.0;
+}
 
 }  // namespace kestrane

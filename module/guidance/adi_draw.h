@@ -1,0 +1,59 @@
+// Attitude director indicator images: the value callbacks and image numbers
+// shared by every gauge that draws the ADI from the flight director's state.
+#pragma once
+
+#include "frame/gauge.h"
+
+namespace kestrane::adi {
+
+// Chain numbers of the ADI's images.
+enum : int {
+    kSphere = 1,
+    kBankScale = 2,
+    kSpeedDevImage = 3,
+    kFdFlag = 4,
+    kAttFlag = 5,
+    kPitchBar = 6,
+    kRollBar = 7,
+    kSpeedDevNeedle = 8,
+    kLitBackground = 9,
+    kLitSpeedDevNeedle = 10,
+};
+
+// The host drops the attitude display when its attitude indicator fails.
+inline constexpr FailureEntry kAttitudeFailure[] = {{8, 0}, {0, 0}};
+
+inline constexpr def::ElementDecl failing(def::ElementDecl s, const FailureEntry* list) {
+    s.e.failures = list;
+    return s;
+}
+
+inline f64 KCALL none(Element*) {
+    return 0.0;
+}
+inline f64 KCALL across(Element*) {
+    return 1.0;
+}
+inline f64 KCALL sphere_pitch(Element*) {
+    return clamp_back(ac.adi_pitch, -43.0, 43.0);
+}
+inline f64 KCALL bank(Element*) {
+    return ac.adi_bank;
+}
+inline f64 KCALL speed_dev_pos(Element*) {
+    return ac.fd_speed_dev_pos;
+}
+inline f64 KCALL pitch_bar(Element*) {
+    return ac.fd_pitch_bar;
+}
+inline f64 KCALL roll_bar(Element*) {
+    return ac.fd_roll_bar;
+}
+inline f64 KCALL speed_dev(Element*) {
+    return clamp_back(ac.fd_speed_dev, -10.0, 20.0);
+}
+
+// Speed-deviation needle: slow at the bottom, fast at the top.
+inline NeedlePoint speed_dev_scale[] = {{60, 320, -10.0, 0.0}, {60, 260, 5.0, 0.0}, {60, 200, 20.0, 0.0}};
+
+}  // namespace kestrane::adi

@@ -6,46 +6,43 @@
 namespace {
 using namespace kestrane;
 
-struct Indicator {
+struct DuctIndicator {
     f32& source;
-    f64& shown;
+    i16& shown;  // whole degrees
+};
+struct ZoneIndicator {
+    f32& source;
+    f32& shown;
 };
 
-f64 duct_ckpt = 0.0, duct_cabin = 0.0, zone_ckpt = 0.0, zone_cabin = 0.0;
+i16 duct_ckpt = 0, duct_cabin = 0;
+f32 zone_ckpt = 0.0f, zone_cabin = 0.0f;
 
-constexpr Indicator kDuctCkpt{ac.air_duct_temp_ckpt, duct_ckpt};
-constexpr Indicator kDuctCabin{ac.air_duct_temp_cabin, duct_cabin};
-constexpr Indicator kZoneCkpt{ac.air_cond_temp_ckpt, zone_ckpt};
-constexpr Indicator kZoneCabin{ac.air_cond_temp_cabin, zone_cabin};
+constexpr DuctIndicator kDuctCkpt{ac.air_duct_temp_ckpt, duct_ckpt};
+constexpr DuctIndicator kDuctCabin{ac.air_duct_temp_cabin, duct_cabin};
+constexpr ZoneIndicator kZoneCkpt{ac.air_cond_temp_ckpt, zone_ckpt};
+constexpr ZoneIndicator kZoneCabin{ac.air_cond_temp_cabin, zone_cabin};
 
-template <const Indicator& I>
+template <const DuctIndicator& I>
 void KCALL duct_update(GaugeHeader*, u32 service, std::uintptr_t) {
     if (service != kServiceUpdate)
         return;
-    if (ac.elec_ess_bus != 1) {
-        I.shown = -70.0;
-        return;
-    }
-    i16 v = trunc_to<i16>(I.source);
-    I.shown = v < -70 ? -70 : v > 150 ? 150 : v;
+    I.shown = ac.elec_ess_bus == 1 ? trunc_to<i16>(I.source) : -70;
+    clamp_back(I.shown, -70.0, 150.0);
 }
-template <const Indicator& I>
+template <const ZoneIndicator& I>
 void KCALL zone_update(GaugeHeader*, u32 service, std::uintptr_t) {
     if (service != kServiceUpdate)
         return;
-    if (ac.elec_ess_bus != 1) {
-        I.shown = 0.0;
-        return;
-    }
-    I.shown = static_cast<f32>(I.source);
+    I.shown = ac.elec_ess_bus == 1 ? I.source : 0.0f;
     clamp_back(I.shown, 0.0, 40.0);
 }
 
-template <const Indicator& I>
+template <const DuctIndicator& I>
 f64 KCALL duct_needle(Element*) {
     return clamp_back(I.shown, -70.0, 150.0);
 }
-template <const Indicator& I>
+template <const ZoneIndicator& I>
 f64 KCALL zone_needle(Element*) {
     return clamp_back(I.shown, 0.0, 40.0);
 }

@@ -157,54 +157,40 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
 NeedlePoint press_scale[] = {
     {30, 150, 0, 0}, {10, 90, 100, 0}, {60, 40, 200, 0}, {120, 60, 300, 0}, {140, 120, 400, 0}};
 NeedlePoint temp_scale[] = {{20, 60, 0, 0}, {40, 20, 100, 0}, {80, 20, 200, 0}, {100, 60, 250, 0}};
+// The panels mirror each other in their push-button lights, bleed switch and
+// mouse boxes; the indicators and needles stand in the same places.
+struct BleedLayout {
+    i32 light_1_x, light_2_x, switch_x;
+    i32 switch_box_x, button_1_x, button_2_x;
+};
+
+template <const BleedPanel& S>
+constexpr auto bleed_gauge(const char* name, u32 background, BleedLayout p) {
+    using namespace kestrane::def;
+    return gauge(name, 225, update<S>)
+        .elements(image(background, 0x4001),                 // e0
+                  icon(4608, p.light_1_x, 140, 0x40000003),  // e1 push-button 1 light
+                  icon(4608, p.light_2_x, 311, 0x40000003),  // e2 push-button 2 light
+                  icon(5664, p.switch_x, 224, 0x40000003),   // e3 bleed switch on
+                  icon(5680, p.switch_x, 198, 0x40000003),   // e4 bleed switch off
+                  icon(12880, 14, 46, 0x40000003),           // e5 bleed flowing: no
+                  icon(12864, 14, 46, 0x40000003),           // e6 bleed flowing: yes
+                  icon(13056, 155, 86, 0x40000003),          // e7 low-N2 bleed: no
+                  icon(12928, 155, 86, 0x40000003),          // e8 low-N2 bleed: yes
+                  icon(12880, 125, 136, 0x40000003),         // e9 start air: no
+                  icon(12864, 125, 136, 0x40000003),         // e10 start air: yes
+                  icon(12880, 184, 136, 0x40000003),         // e11 valve fully open: no
+                  icon(12864, 184, 136, 0x40000003),         // e12 valve fully open: yes
+                  needle(5696, 85, 230, 4, 4, 0x4003, press_needle<S>, press_scale),  // e13 bleed pressure
+                  needle(5712, 173, 314, 4, 4, 0x4003, temp_needle<S>, temp_scale),   // e14 duct temperature
+                  image(14080, 0x4003, 42, 187),                                      // e15
+                  image(14096, 0x4003, 130, 271))                                     // e16
+        .mouse(click(p.switch_box_x, 227, 50, 40, kCursorUp, bleed_on<S>),
+               click(p.switch_box_x, 187, 50, 40, kCursorDown, bleed_off<S>),
+               click(p.button_1_x, 129, 33, 33, kCursorHand, button_1<S>),
+               click(p.button_2_x, 301, 33, 33, kCursorHand, button_2<S>));
+}
 }  // namespace
 
-// clang-format off
-KESTRANE_GAUGE(airbleed_lh,
-    gauge("kestrane airbleed_lh_jm47", 225, update<kLh>)
-        .elements(image(5632, 0x4001),                                                // e0
-                  icon(4608, 39, 140, 0x40000003),                                    // e1 push-button 1 light
-                  icon(4608, 92, 311, 0x40000003),                                    // e2 push-button 2 light
-                  icon(5664, 163, 224, 0x40000003),                                   // e3 bleed switch on
-                  icon(5680, 163, 198, 0x40000003),                                   // e4 bleed switch off
-                  icon(12880, 14, 46, 0x40000003),                                    // e5 bleed flowing: no
-                  icon(12864, 14, 46, 0x40000003),                                    // e6 bleed flowing: yes
-                  icon(13056, 155, 86, 0x40000003),                                   // e7 low-N2 bleed: no
-                  icon(12928, 155, 86, 0x40000003),                                   // e8 low-N2 bleed: yes
-                  icon(12880, 125, 136, 0x40000003),                                  // e9 start air: no
-                  icon(12864, 125, 136, 0x40000003),                                  // e10 start air: yes
-                  icon(12880, 184, 136, 0x40000003),                                  // e11 valve fully open: no
-                  icon(12864, 184, 136, 0x40000003),                                  // e12 valve fully open: yes
-                  needle(5696, 85, 230, 4, 4, 0x4003, press_needle<kLh>, press_scale),  // e13 bleed pressure
-                  needle(5712, 173, 314, 4, 4, 0x4003, temp_needle<kLh>, temp_scale),   // e14 duct temperature
-                  image(14080, 0x4003, 42, 187),                                      // e15
-                  image(14096, 0x4003, 130, 271))                                     // e16
-        .mouse(click(149, 227, 50, 40, kCursorUp, bleed_on<kLh>),
-               click(149, 187, 50, 40, kCursorDown, bleed_off<kLh>),
-               click(73, 129, 33, 33, kCursorHand, button_1<kLh>),
-               click(41, 301, 33, 33, kCursorHand, button_2<kLh>)))
-
-KESTRANE_GAUGE(airbleed_rh,
-    gauge("kestrane airbleed_rh_jm47", 225, update<kRh>)
-        .elements(image(5648, 0x4001),                                                // e0
-                  icon(4608, 170, 140, 0x40000003),                                   // e1 push-button 1 light
-                  icon(4608, 115, 311, 0x40000003),                                   // e2 push-button 2 light
-                  icon(5664, 39, 224, 0x40000003),                                    // e3 bleed switch on
-                  icon(5680, 39, 198, 0x40000003),                                    // e4 bleed switch off
-                  icon(12880, 14, 46, 0x40000003),                                    // e5 bleed flowing: no
-                  icon(12864, 14, 46, 0x40000003),                                    // e6 bleed flowing: yes
-                  icon(13056, 155, 86, 0x40000003),                                   // e7 low-N2 bleed: no
-                  icon(12928, 155, 86, 0x40000003),                                   // e8 low-N2 bleed: yes
-                  icon(12880, 125, 136, 0x40000003),                                  // e9 start air: no
-                  icon(12864, 125, 136, 0x40000003),                                  // e10 start air: yes
-                  icon(12880, 184, 136, 0x40000003),                                  // e11 valve fully open: no
-                  icon(12864, 184, 136, 0x40000003),                                  // e12 valve fully open: yes
-                  needle(5696, 85, 230, 4, 4, 0x4003, press_needle<kRh>, press_scale),  // e13 bleed pressure
-                  needle(5712, 173, 314, 4, 4, 0x4003, temp_needle<kRh>, temp_scale),   // e14 duct temperature
-                  image(14080, 0x4003, 42, 187),                                      // e15
-                  image(14096, 0x4003, 130, 271))                                     // e16
-        .mouse(click(25, 227, 50, 40, kCursorUp, bleed_on<kRh>),
-               click(25, 187, 50, 40, kCursorDown, bleed_off<kRh>),
-               click(120, 129, 33, 33, kCursorHand, button_1<kRh>),
-               click(149, 301, 33, 33, kCursorHand, button_2<kRh>)))
-// clang-format on
+KESTRANE_GAUGE(airbleed_lh, bleed_gauge<kLh>("kestrane airbleed_lh_jm47", 5632, {39, 92, 163, 149, 73, 41}))
+KESTRANE_GAUGE(airbleed_rh, bleed_gauge<kRh>("kestrane airbleed_rh_jm47", 5648, {170, 115, 39, 25, 120, 149}))

@@ -1,4 +1,4 @@
-// kestrane toggle_pan_elec2: invisible toggle of the electrical panel (close button on the panel itself).
+// kestrane toggle_pan_elec2: close button on the electrical panel (toggles its window).
 #include "frame/panel_toggle.h"
 
 KESTRANE_GAUGE(toggle_pan_elec2, gauge("kestrane toggle_pan_elec2", 51, click_area_update<0>)

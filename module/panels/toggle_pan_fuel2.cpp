@@ -1,4 +1,4 @@
-// kestrane toggle_pan_fuel2: invisible toggle of the fuel panel (close button on the panel itself).
+// kestrane toggle_pan_fuel2: close button on the fuel panel (toggles its window).
 #include "frame/panel_toggle.h"
 
 KESTRANE_GAUGE(toggle_pan_fuel2, gauge("kestrane toggle_pan_fuel2", 70, click_area_update<0>)

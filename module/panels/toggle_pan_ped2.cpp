@@ -1,4 +1,4 @@
-// kestrane toggle_pan_ped2: invisible toggle of the pedestal and the ADF 2 / COM 2 radios: closes both.
+// kestrane toggle_pan_ped2: close button of the pedestal; closes the ADF 2 / COM 2 radios with it.
 #include "frame/panel_toggle.h"
 
 KESTRANE_GAUGE(toggle_pan_ped2,

@@ -1,4 +1,4 @@
-// kestrane toggle_pan_up22: invisible toggle of the Upper2 panel (close button on the panel itself).
+// kestrane toggle_pan_up22: close button on the Upper2 panel (toggles its window).
 #include "frame/panel_toggle.h"
 
 KESTRANE_GAUGE(toggle_pan_up22, gauge("kestrane toggle_pan_up22", 70, click_area_update<0>)

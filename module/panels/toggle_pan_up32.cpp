@@ -1,4 +1,4 @@
-// kestrane toggle_pan_up32: invisible toggle of the Upper3 panel (close button on the panel itself).
+// kestrane toggle_pan_up32: close button on the Upper3 panel (toggles its window).
 #include "frame/panel_toggle.h"
 
 KESTRANE_GAUGE(toggle_pan_up32, gauge("kestrane toggle_pan_up32", 108, click_area_update<0>)

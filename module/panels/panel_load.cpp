@@ -26,9 +26,10 @@ void open_main_windows() {
         host::send_event(kEventWindowOpen, id);
 }
 
-// Positions of a cold aircraft on the ground: fuel shut, generators and
-// converters off, battery master off, hydraulic pumps to auto, bleeds,
-// pitot heat and radio altimeter off.
+// Positions of a cold aircraft on the ground: fuel shut and pumps off,
+// converters and the electrical master off, generator guards closed over
+// their switches, hydraulic pumps on under their guards, bleeds, pitot heat
+// and radio altimeter off.
 void set_cold_positions() {
     ac.fuel_hp_cock_lh = ac.fuel_hp_cock_rh = 0;
     ac.fuel_pump_a_sw_lh = ac.fuel_pump_b_sw_lh = ac.fuel_pump_c_sw_lh = ac.fuel_pump_d_sw_lh = 0;

@@ -1,0 +1,5 @@
+#include "panels/panel_load.h"
+
+namespace kestrane {
+void panel_load_cycle() {}
+}  // namespace kestrane

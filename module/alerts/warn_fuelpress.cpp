@@ -17,10 +17,18 @@ struct FuelPressLight {
     u8 code;
 };
 
-constexpr FuelPressLight kLeft{ac.fuel_hp_cock_lh,      ac.fuel_press_lh,          ac.fuel_lowpress_test_lh,
-                               ac.warn_lhfuelpress_lit, ac.warn_alert_lhfuelpress, 11};
-constexpr FuelPressLight kRight{ac.fuel_hp_cock_rh,      ac.fuel_press_rh,          ac.fuel_lowpress_test_rh,
-                                ac.warn_rhfuelpress_lit, ac.warn_alert_rhfuelpress, 12};
+constexpr FuelPressLight kLeft{.hp_cock = ac.fuel_hp_cock_lh,
+                               .press = ac.fuel_press_lh,
+                               .test = ac.fuel_lowpress_test_lh,
+                               .lit = ac.warn_lhfuelpress_lit,
+                               .request = ac.warn_alert_lhfuelpress,
+                               .code = 11};
+constexpr FuelPressLight kRight{.hp_cock = ac.fuel_hp_cock_rh,
+                                .press = ac.fuel_press_rh,
+                                .test = ac.fuel_lowpress_test_rh,
+                                .lit = ac.warn_rhfuelpress_lit,
+                                .request = ac.warn_alert_rhfuelpress,
+                                .code = 12};
 
 template <const FuelPressLight& S>
 void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {

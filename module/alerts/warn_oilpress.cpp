@@ -15,10 +15,16 @@ struct OilLight {
 
 ModuleVar oil_press_1 = token(562), oil_press_2 = token(572);
 
-constexpr OilLight kLeft{oil_press_1, ac.fuel_hp_cock_lh, ac.warn_lhoilpress_state, ac.warn_alert_lhoilpress,
-                         5};
-constexpr OilLight kRight{oil_press_2, ac.fuel_hp_cock_rh, ac.warn_rhoilpress_state, ac.warn_alert_rhoilpress,
-                          6};
+constexpr OilLight kLeft{.oil_press = oil_press_1,
+                         .hp_cock = ac.fuel_hp_cock_lh,
+                         .state = ac.warn_lhoilpress_state,
+                         .request = ac.warn_alert_lhoilpress,
+                         .code = 5};
+constexpr OilLight kRight{.oil_press = oil_press_2,
+                          .hp_cock = ac.fuel_hp_cock_rh,
+                          .state = ac.warn_rhoilpress_state,
+                          .request = ac.warn_alert_rhoilpress,
+                          .code = 6};
 
 template <const OilLight& S>
 void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {

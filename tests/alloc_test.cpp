@@ -81,7 +81,7 @@ TEST(Allocations, NoneInScenarioStepsAndPassingChecks) {
                              "expect no event 65568\n"
                              "expect event 65568 count 0\n"
                              "expect hidden \"testgauge2k\" 1\n"
-                             "expect window 10090 closed\n"
+                             "expect window 10150 closed\n"
                              "expect named \"airport_extpwr_connected\" == 0\n"
                              "click \"kestrane callsigns_jm47\" 115 60\n"
                              "click \"kestrane callsigns_jm47\" 115 45\n"

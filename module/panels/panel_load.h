@@ -1,6 +1,9 @@
+// The panel-load sequence, run each cycle by a gauge whose window is open
+// when the aircraft loads.
 #pragma once
 
 namespace kestrane {
-// Cold or ready-to-fly start: runs each cycle in the engine 2 extinguisher's callback.
+
 void panel_load_cycle();
+
 }  // namespace kestrane

@@ -1,12 +1,7 @@
-// kestrane toggle_pan_up32: background only so far.
-#include "frame/gauge_def.h"
+// kestrane toggle_pan_up32: close button on the Upper3 panel (toggles its window).
+#include "frame/panel_toggle.h"
 
-namespace {
-using namespace kestrane;
-
-void KCALL update(GaugeHeader*, u32, std::uintptr_t) {}
-}  // namespace
-
-KESTRANE_GAUGE(toggle_pan_up32, gauge("kestrane toggle_pan_up32", 108, update)
+KESTRANE_GAUGE(toggle_pan_up32, gauge("kestrane toggle_pan_up32", 108, click_area_update<0>)
                                     .tip("close Upper3 panel")
-                                    .elements(image(352, 0x40004003)))  // e0
+                                    .elements(image(352, 0x40004003))  // e0 click area
+                                    .mouse(toggle_box(0, 0, 108, 108, toggle_window<window::kUpper3>)))

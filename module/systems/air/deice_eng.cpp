@@ -73,32 +73,26 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
     if (service == kServiceUpdate)
         deice_cycle(g, S);
 }
+
+// Both panels share one layout; only the name and the background differ.
+template <const DeiceEngine& S>
+constexpr auto deice_gauge(const char* name, u32 background) {
+    using namespace kestrane::def;
+    return gauge(name, 114, update<S>)
+        .elements(image(background, 0x4001),        // e0 background
+                  icon(10064, 86, 60, 0x40000003),  // e1 switch A off
+                  icon(10048, 86, 72, 0x40000003),  // e2 switch A on
+                  icon(10064, 86, 14, 0x40000003),  // e3 switch B off
+                  icon(10048, 86, 28, 0x40000003),  // e4 switch B on
+                  icon(10240, 28, 26, 0x40000003),  // e5 B indicator cold
+                  icon(10256, 28, 26, 0x40000003),  // e6 B indicator hot
+                  icon(10256, 28, 69, 0x40000003))  // e7 A light
+        .mouse(click(77, 74, 32, 21, kCursorUp, switch_a<S, 1>),
+               click(77, 53, 32, 21, kCursorDown, switch_a<S, 0>),
+               click(77, 29, 32, 21, kCursorUp, switch_b<S, 1>),
+               click(77, 8, 32, 21, kCursorDown, switch_b<S, 0>));
+}
 }  // namespace
 
-KESTRANE_GAUGE(deice_eng_lh, gauge("kestrane deice_eng_lh_jm47", 114, update<kEngine1>)
-                                 .elements(image(41488, 0x4001),             // e0 background
-                                           icon(10064, 86, 60, 0x40000003),  // e1 switch A off
-                                           icon(10048, 86, 72, 0x40000003),  // e2 switch A on
-                                           icon(10064, 86, 14, 0x40000003),  // e3 switch B off
-                                           icon(10048, 86, 28, 0x40000003),  // e4 switch B on
-                                           icon(10240, 28, 26, 0x40000003),  // e5 B indicator cold
-                                           icon(10256, 28, 26, 0x40000003),  // e6 B indicator hot
-                                           icon(10256, 28, 69, 0x40000003))  // e7 A light
-                                 .mouse(click(77, 74, 32, 21, kCursorUp, switch_a<kEngine1, 1>),
-                                        click(77, 53, 32, 21, kCursorDown, switch_a<kEngine1, 0>),
-                                        click(77, 29, 32, 21, kCursorUp, switch_b<kEngine1, 1>),
-                                        click(77, 8, 32, 21, kCursorDown, switch_b<kEngine1, 0>)))
-
-KESTRANE_GAUGE(deice_eng_rh, gauge("kestrane deice_eng_rh_jm47", 114, update<kEngine2>)
-                                 .elements(image(41504, 0x4001),             // e0 background
-                                           icon(10064, 86, 60, 0x40000003),  // e1 switch A off
-                                           icon(10048, 86, 72, 0x40000003),  // e2 switch A on
-                                           icon(10064, 86, 14, 0x40000003),  // e3 switch B off
-                                           icon(10048, 86, 28, 0x40000003),  // e4 switch B on
-                                           icon(10240, 28, 26, 0x40000003),  // e5 B indicator cold
-                                           icon(10256, 28, 26, 0x40000003),  // e6 B indicator hot
-                                           icon(10256, 28, 69, 0x40000003))  // e7 A light
-                                 .mouse(click(77, 74, 32, 21, kCursorUp, switch_a<kEngine2, 1>),
-                                        click(77, 53, 32, 21, kCursorDown, switch_a<kEngine2, 0>),
-                                        click(77, 29, 32, 21, kCursorUp, switch_b<kEngine2, 1>),
-                                        click(77, 8, 32, 21, kCursorDown, switch_b<kEngine2, 0>)))
+KESTRANE_GAUGE(deice_eng_lh, deice_gauge<kEngine1>("kestrane deice_eng_lh_jm47", 41488))
+KESTRANE_GAUGE(deice_eng_rh, deice_gauge<kEngine2>("kestrane deice_eng_rh_jm47", 41504))

@@ -62,14 +62,21 @@ struct LockBand {
 };
 
 // Each detent angle (5, 10, 20) belongs to the next detent down the travel.
+// clang-format off
 constexpr LockBand kBands[] = {
-    {3, 5, false, false, 1820, 1821, kFlapsIncr},    {5, 8, true, false, 1820, 1821, kFlapsDecr},
-    {5, 5, false, true, 6553, 6554, kFlapsIncr},     {8, 10, false, false, 6553, 6554, kFlapsIncr},
-    {10, 15, true, false, 6553, 6554, kFlapsDecr},   {10, 10, false, true, 9830, 9831, kFlapsIncr},
-    {15, 20, false, false, 9830, 9831, kFlapsIncr},  {20, 26, true, false, 9830, 9831, kFlapsDecr},
-    {20, 20, false, true, 13107, 13108, kFlapsIncr}, {26, 32, false, false, 13107, 13108, kFlapsIncr},
+    {3, 5, false, false, 1820, 1821, kFlapsIncr},
+    {5, 8, true, false, 1820, 1821, kFlapsDecr},
+    {5, 5, false, true, 6553, 6554, kFlapsIncr},
+    {8, 10, false, false, 6553, 6554, kFlapsIncr},
+    {10, 15, true, false, 6553, 6554, kFlapsDecr},
+    {10, 10, false, true, 9830, 9831, kFlapsIncr},
+    {15, 20, false, false, 9830, 9831, kFlapsIncr},
+    {20, 26, true, false, 9830, 9831, kFlapsDecr},
+    {20, 20, false, true, 13107, 13108, kFlapsIncr},
+    {26, 32, false, false, 13107, 13108, kFlapsIncr},
     {32, 39, true, false, 13107, 13108, kFlapsDecr},
 };
+// clang-format on
 
 bool in_band(const LockBand& b, f64 a) {
     const bool above = b.lo_open ? a > b.lo : a >= b.lo;

@@ -307,7 +307,7 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
         failures_cycle(g);
 }
 
-constexpr u32 kIcon = 0x40000003;
+constexpr u32 kIconFlags = 0x40000003;
 constexpr u32 kUnused = 24832;  // placeholder image of the five elements never shown
 constexpr def::TextStyle kYellow{0xFFFF00, 0x46231E, 0xFFFF00};
 constexpr u32 kBox = kMouseLeft;
@@ -333,31 +333,31 @@ KESTRANE_GAUGE(
     failures,
     gauge("kestrane failures_jm47", 1179, update)
         .elements(image(24704, 0x5),                             // e0 background
-                  icon(24832, 908, 691, kIcon),                  // e1 validate pending
-                  icon(25344, 946, 581, kIcon),                  // e2 servo preset
-                  icon(24960, 946, 465, kIcon),                  // e3 electrical preset
-                  icon(kUnused, 0, 0, kIcon),                    // e4 unused
-                  icon(25104, 946, 249, kIcon),                  // e5 reset preset
-                  icon(24896, 105, 789, kIcon),                  // e6 clear all
-                  icon(25376, 105, 738, kIcon),                  // e7 random failure
-                  icon(25200, 105, 713, kIcon),                  // e8 fire scenario
-                  icon(25184, 105, 688, kIcon),                  // e9 green leak
-                  icon(kUnused, 0, 0, kIcon),                    // e10 unused
-                  icon(kUnused, 0, 0, kIcon),                    // e11 unused
-                  icon(25360, 202, 569, kIcon),                  // e12 green fluid loss
-                  icon(25216, 106, 571, kIcon),                  // e13 green fluid loss
-                  icon(24880, 202, 490, kIcon),                  // e14 generator 2
-                  icon(24864, 202, 465, kIcon),                  // e15 generator 1
-                  icon(24944, 107, 467, kIcon),                  // e16 generator 1 or 2
-                  icon(kUnused, 0, 0, kIcon),                    // e17 unused
-                  icon(kUnused, 0, 0, kIcon),                    // e18 unused
-                  icon(25120, 238, 291, kIcon),                  // e19 engine 2 failure
-                  icon(25168, 107, 292, kIcon),                  // e20 engine 2 failure
-                  icon(25136, 238, 232, kIcon),                  // e21 engine 1 fire
-                  icon(25120, 238, 209, kIcon),                  // e22 engine 1 failure
-                  icon(25152, 107, 210, kIcon),                  // e23 engine 1 failure or fire
-                  icon(24912, 106, 149, kIcon),                  // e24 cold preset
-                  icon(24928, 107, 99, kIcon),                   // e25 ready preset
+                  icon(24832, 908, 691, kIconFlags),             // e1 validate pending
+                  icon(25344, 946, 581, kIconFlags),             // e2 servo preset
+                  icon(24960, 946, 465, kIconFlags),             // e3 electrical preset
+                  icon(kUnused, 0, 0, kIconFlags),               // e4 unused
+                  icon(25104, 946, 249, kIconFlags),             // e5 reset preset
+                  icon(24896, 105, 789, kIconFlags),             // e6 clear all
+                  icon(25376, 105, 738, kIconFlags),             // e7 random failure
+                  icon(25200, 105, 713, kIconFlags),             // e8 fire scenario
+                  icon(25184, 105, 688, kIconFlags),             // e9 green leak
+                  icon(kUnused, 0, 0, kIconFlags),               // e10 unused
+                  icon(kUnused, 0, 0, kIconFlags),               // e11 unused
+                  icon(25360, 202, 569, kIconFlags),             // e12 green fluid loss
+                  icon(25216, 106, 571, kIconFlags),             // e13 green fluid loss
+                  icon(24880, 202, 490, kIconFlags),             // e14 generator 2
+                  icon(24864, 202, 465, kIconFlags),             // e15 generator 1
+                  icon(24944, 107, 467, kIconFlags),             // e16 generator 1 or 2
+                  icon(kUnused, 0, 0, kIconFlags),               // e17 unused
+                  icon(kUnused, 0, 0, kIconFlags),               // e18 unused
+                  icon(25120, 238, 291, kIconFlags),             // e19 engine 2 failure
+                  icon(25168, 107, 292, kIconFlags),             // e20 engine 2 failure
+                  icon(25136, 238, 232, kIconFlags),             // e21 engine 1 fire
+                  icon(25120, 238, 209, kIconFlags),             // e22 engine 1 failure
+                  icon(25152, 107, 210, kIconFlags),             // e23 engine 1 failure or fire
+                  icon(24912, 106, 149, kIconFlags),             // e24 cold preset
+                  icon(24928, 107, 99, kIconFlags),              // e25 ready preset
                   field(360, 203, number<&S::fail_left_eng1>),   // e26 engine 1 minutes
                   field(567, 203, number<&S::fail_speed_eng1>),  // e27 engine 1 speed
                   field(360, 229, number<&S::fail_left_fire>),   // e28 fire minutes

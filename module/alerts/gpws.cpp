@@ -323,7 +323,7 @@ KESTRANE_GAUGE(gpws, gauge("kestrane gpws_jm47", 107, update)
                          .elements(image(13680, 0x2),                  // e0 background
                                    icon(13824, 0, 100, kHiddenIcon),   // e1 pull-up guard closed
                                    icon(13840, 39, 100, kHiddenIcon),  // e2 glide-slope guard closed
-                                   image(13696, 0x3),                  // e3 front plate
+                                   icon(13696, 0, 0, 0x3),             // e3 front plate
                                    icon(12832, 11, 135, kHiddenIcon),  // e4 pull-up voice down
                                    icon(12848, 11, 151, kHiddenIcon),  // e5 pull-up voice up
                                    icon(12832, 51, 135, kHiddenIcon),  // e6 glide-slope voice down

@@ -153,6 +153,17 @@ public:
     // What `e` of `g` showed when g was last drawn (null: not drawn since install).
     const Drawn* drawn(GaugeHeader* g, const Element* e) const;
     static int chain_length(GaugeHeader* g);
+    // Every element of `g` in drawing order with its label: "N" along the
+    // chain, "N.K" for the K-th branch of eN (deeper branches add ".J").
+    template <class Fn>
+    static void for_each_element(GaugeHeader* g, Fn&& fn) {
+        int n = 0;
+        for (Element* e = element(g, 0); e != nullptr; e = element(g, ++n)) {
+            const std::string label = std::to_string(n);
+            fn(e, label);
+            for_each_branch(e, label, fn, 0);
+        }
+    }
     static int child_rows(GaugeHeader* g);
 
     // Service-table entry points (the host is single-threaded; one host at a time).
@@ -165,6 +176,21 @@ public:
     u32 svc_calc(const char* code, f64* result);
 
 private:
+    // Children of a chain element after the first, or all children of a branch.
+    template <class Fn>
+    static void for_each_branch(Element* e, const std::string& label, Fn& fn, int depth) {
+        if (e->children == nullptr || depth > 16)
+            return;
+        const int first = depth == 0 ? 1 : 0;
+        if (first == 1 && e->children[0] == nullptr)
+            return;
+        for (int k = first; e->children[k] != nullptr; ++k) {
+            const std::string sub = label + "." + std::to_string(k + 1 - first);
+            fn(e->children[k], sub);
+            for_each_branch(e->children[k], sub, fn, depth + 1);
+        }
+    }
+
     void reset_tables();
     void store_token(u32 id, const void* bytes, std::size_t n);
     void draw_element(Element* e, int depth, std::vector<Drawn>& slots, std::size_t& at);

@@ -16,7 +16,8 @@ using namespace kestrane::host;
 int usage() {
     std::cerr << "usage: kestrane-host [--module PATH] run [--record-audio FILE.wav] FILE|DIR...\n"
                  "       kestrane-host [--module PATH] gauges\n"
-                 "       kestrane-host [--module PATH] fields\n";
+                 "       kestrane-host [--module PATH] fields\n"
+                 "       kestrane-host [--module PATH] elements\n";
     return 2;
 }
 
@@ -35,6 +36,29 @@ int list_gauges(Host& host) {
         std::cout << i << '\t' << g->name << '\t' << g->size_x_mm << '\t'
                   << (g->callback ? "callback" : "none") << '\t' << Host::chain_length(g) << '\t'
                   << Host::child_rows(g) << '\n';
+    }
+    return 0;
+}
+
+const char* kind_text(u32 kind) {
+    static const char* const names[] = {"static", "needle", "string", "slider", "icon", "moving", "sprite"};
+    return kind < 7 ? names[kind] : "unknown";
+}
+
+// One line an element: gauge index, gauge name, element, kind, bitmap id, x, y, declared flags.
+int list_elements(Host& host) {
+    for (int i = 0; i < host.gauge_count(); ++i) {
+        GaugeHeader* g = host.gauge(i);
+        Host::for_each_element(g, [&](Element* e, const std::string& label) {
+            char flags[16];
+            std::snprintf(flags, sizeof flags, "0x%X", e->flags);
+            std::cout << i << '\t' << g->name << '\t' << label << '\t' << kind_text(e->kind) << '\t';
+            if (e->kind == kString)
+                std::cout << '-';
+            else
+                std::cout << e->bitmap;
+            std::cout << '\t' << e->x << '\t' << e->y << '\t' << flags << '\n';
+        });
     }
     return 0;
 }
@@ -74,6 +98,8 @@ int main(int argc, char** argv) {
         return list_gauges(host);
     if (cmd == "fields" && args.size() == 1)
         return list_fields(host);
+    if (cmd == "elements" && args.size() == 1)
+        return list_elements(host);
     if (cmd == "run") {
         std::size_t first = 1;
         if (args.size() >= 3 && args[1] == "--record-audio") {

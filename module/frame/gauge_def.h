@@ -329,6 +329,8 @@ constexpr bool well_formed(const Decl& decl) {
         }
         if (s.e.kind == kString && s.e.u.str.char_count > kMaxText)
             return false;
+        if (i > 0 && s.e.kind == kStaticImage)
+            return false;  // the background is the one static image; the rest are icons
     }
     for (int i = 0; i < Decl::n_elems; ++i) {
         if (decl.elems[i].parent >= chain - 1 && decl.elems[i].parent >= 0)

@@ -333,7 +333,7 @@ constexpr auto controller(const char* name, GaugeCallback cb, u32 background) {
     using namespace def;
     return gauge(name, 216, cb)
         .elements(image(background, 0x4001),                                        // e0 background
-                  image(art(1), 0x4003),                                            // e1 overlay
+                  icon(art(1), 0, 0, 0x4003),                                       // e1 overlay
                   icon(art(2), 174, 18, 0x4003),                                    // e2 wheel at rest
                   icon(art(3), 174, 14, 0x40000003),                                // e3 wheel rolled up
                   icon(art(4), 174, 33, 0x40000003),                                // e4 wheel rolled down

@@ -37,7 +37,7 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
 
 KESTRANE_GAUGE(aprdy, gauge("kestrane aprdy_jm47", 231, update)
                           .elements(image(41040, 0x4001),                   // e0 background
-                                    image(ap::art(12), 0x4003),             // e1 overlay
+                                    icon(ap::art(12), 0, 0, 0x4003),        // e1 overlay
                                     icon(ap::art(13), 57, 9, 0x40000003),   // e2 switch on
                                     icon(ap::art(14), 57, 18, 0x40000003),  // e3 switch off
                                     icon(ap::art(15), 172, 1, 0x40000003))  // e4 READY

@@ -298,7 +298,7 @@ KESTRANE_GAUGE(
             moving(44128, 98, 84, kShown, nullptr, gs_pointer, 0, 0, -1, 11),      // e8 glide-slope pointer
             icon(44144, 98, 144, kHiddenIcon),                                     // e9 glide-slope flag
             needle(44160, kCx, kCy, 8, 110, kShown, bug_angle, linear),            // e10 heading needle
-            image(44176, kShown, 159, 141),                                        // e11 aircraft symbol
+            icon(44176, 159, 141, kShown),                                         // e11 aircraft symbol
             moving(44192, 57, 26, kShown, nullptr, course_digit<0>, 0, 0, 0, 10),  // e12 course hundreds
             moving(44192, 75, 26, kShown, nullptr, course_digit<1>, 0, 0, 0, 10),  // e13 course tens
             moving(44192, 93, 26, kShown, nullptr, course_digit<2>, 0, 0, 0, 10),  // e14 course units

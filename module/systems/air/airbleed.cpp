@@ -183,8 +183,8 @@ constexpr auto bleed_gauge(const char* name, u32 background, BleedLayout p) {
                   icon(12864, 184, 136, 0x40000003),         // e12 valve fully open: yes
                   needle(5696, 85, 230, 4, 4, 0x4003, press_needle<S>, press_scale),  // e13 bleed pressure
                   needle(5712, 173, 314, 4, 4, 0x4003, temp_needle<S>, temp_scale),   // e14 duct temperature
-                  image(14080, 0x4003, 42, 187),                                      // e15
-                  image(14096, 0x4003, 130, 271))                                     // e16
+                  icon(14080, 42, 187, 0x4003),                                       // e15
+                  icon(14096, 130, 271, 0x4003))                                      // e16
         .mouse(click(p.switch_box_x, 227, 50, 40, kCursorUp, bleed_on<S>),
                click(p.switch_box_x, 187, 50, 40, kCursorDown, bleed_off<S>),
                click(p.button_1_x, 129, 33, 33, kCursorHand, button_1<S>),

@@ -56,13 +56,13 @@ KESTRANE_GAUGE(airductemp_cockpit,
     gauge("kestrane airductemp_cockpit_jm47", 100, duct_update<kDuctCkpt>)
         .elements(image(13440, 0x4001),                                                  // e0
                   needle(13360, 50, 45, 4, 4, 0x4003, duct_needle<kDuctCkpt>, duct_scale),  // e1 duct temperature
-                  image(13952, 0x4003, 8, 4)))                                           // e2
+                  icon(13952, 8, 4, 0x4003)))                                           // e2
 
 KESTRANE_GAUGE(airductemp_cabin,
     gauge("kestrane airductemp_cabin_jm47", 100, duct_update<kDuctCabin>)
         .elements(image(13440, 0x4001),                                                   // e0
                   needle(13360, 50, 45, 4, 4, 0x4003, duct_needle<kDuctCabin>, duct_scale),  // e1 duct temperature
-                  image(13952, 0x4003, 8, 4)))                                            // e2
+                  icon(13952, 8, 4, 0x4003)))                                            // e2
 
 KESTRANE_GAUGE(aircondtemp_cockpit,
     gauge("kestrane aircondtemp_cockpit_jm47", 100, zone_update<kZoneCkpt>)

@@ -48,7 +48,7 @@ KESTRANE_GAUGE(gearind,
     gauge("kestrane gearind_jm47", 168, update)
         .help(0xAB31)
         .elements(image(43024, 0x4001),                // e0 background
-                  image(43232, 0x40004001),            // e1 night overlay
+                  icon(43232, 0, 0, 0x40004003),       // e1 night overlay
                   icon(43248, 14, 20, 0x40000003),     // e2 left unlocked
                   icon(43248, 70, 20, 0x40000003),     // e3 middle unlocked
                   icon(43248, 126, 20, 0x40000003),    // e4 right unlocked

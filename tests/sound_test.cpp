@@ -266,7 +266,6 @@ TEST_F(Player, InstallLoadsEverySoundInTableOrderWithItsVolume) {
         EXPECT_EQ(order[i], kTable[i].name);
 }
 
-
 TEST_F(Player, FailedLockOrBufferLosesOnlyThatSound) {
     dev().faults.fail_lock_at = 3;    // GONGMONO
     dev().faults.fail_create_at = 5;  // SONNERIE

@@ -290,7 +290,7 @@ u8 element_callbacks(const Element* e) {
     auto bit = [](auto cb, u8 b) { return cb != nullptr ? b : u8{0}; };
     switch (e->kind) {
         case kNeedle:
-            return bit(e->u.needle.callback, Drawn::kX);
+            return e->u.needle.callback != nullptr || e->u.needle.source.id != 0 ? u8{Drawn::kX} : u8{0};
         case kString:
             return bit(e->u.str.callback, Drawn::kText);
         case kSlider:
@@ -320,10 +320,14 @@ void Host::draw_element(Element* e, int depth, std::vector<Drawn>& slots, std::s
     if ((e->flags & kHidden) == 0) {
         switch (e->kind) {
             case kNeedle:
-                if (e->u.needle.callback)
+                if (e->u.needle.callback) {
                     value(e->u.needle.callback, 0);
-                else if (e->u.needle.source.id)
+                } else if (e->u.needle.source.id) {
+                    // the host shows the token itself
                     svc_lookup_var(&e->u.needle.source);
+                    d.value[0] = e->u.needle.source.value.n;
+                    d.have |= Drawn::kX;
+                }
                 break;
             case kString:
                 if (e->u.str.callback) {

@@ -341,7 +341,7 @@ void parse_drawn(Line& l, Command& c, const Host& host, bool text) {
             if (axis >= 0)
                 l.fail(what + ": its value has no axis, write expect value \"G\" N OP V");
             else if ((have & Drawn::kX) == 0)
-                l.fail(what + " without a value callback");
+                l.fail(what + " without a value callback or source token");
             axis = 0;
             break;
         case kSlider:

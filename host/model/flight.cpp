@@ -63,7 +63,7 @@ void Aircraft::step_autopilot(Host& h, double& bank_rate, double& gamma_deg, boo
         lateral = false;
     }
     if (lateral) {
-        bank_target = -std::clamp(wrap180(hdg_target - hdg) * 1.5, -25.0, 25.0);
+        bank_target = -std::clamp(wrap180(hdg_target - hdg) * 2.5, -25.0, 25.0);
         bank_rate = std::clamp(bank_target - bank, -5.0, 5.0);
     }
     const double alt = h.token(kAltFt);

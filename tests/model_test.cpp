@@ -1,15 +1,21 @@
 // The host aircraft model on its own: controls moving at their rates, toggles,
 // radio tuning, the host autopilot, take-off and determinism.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
 #include <tuple>
 
 #include "host/host.h"
 #include "host/model/aircraft.h"
+#include "host/scenario.h"
 
 namespace {
 
@@ -140,7 +146,7 @@ TEST_F(Model, RadioKnobsTuneInBcdAndWrap) {
     send(65639);  // 25 kHz steps run on through the MHz: 118.100
     EXPECT_EQ(bcd(23), 0x1810u);
     host.set_token_bcd(23, 0x1800);
-    send(65638);  // and wrap within it
+    send(65638);                  // and wrap within it
     EXPECT_EQ(bcd(23), 0x1897u);  // 118.975
     // transponder digits wrap 0..7
     host.set_token_bcd(38, 0x7000);
@@ -211,6 +217,26 @@ TEST_F(Model, SameEventsGiveTheSameFlightToTheBit) {
     auto a = fly();
     auto b = fly();
     EXPECT_EQ(std::memcmp(a.data(), b.data(), sizeof(double) * 4), 0);
+}
+
+// A trace: its header, then one row a simulated second with the time first.
+TEST(ModelTrace, OneRowASimulatedSecond) {
+    Host host;
+    ASSERT_TRUE(host.ok());
+    const auto dir = std::filesystem::temp_directory_path();
+    const std::string scn = (dir / ("kestrane-trace-" + std::to_string(::getpid()) + ".scn")).string();
+    const std::string csv = scn + ".csv";
+    std::ofstream(scn) << "aircraft default\ntrace elec_ess_bus token 333 named \"Turbine_N2_1\"\n"
+                          "run 18\ntoken 333 = 5\naircraft off\nrun 18\n";
+    ASSERT_TRUE(host.trace_to(csv));
+    std::ostringstream out;
+    EXPECT_EQ(run_paths({scn}, host, out), 0) << out.str();
+    host.trace_to("/dev/null");  // closes the file
+    std::ifstream in(csv);
+    std::string all((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    EXPECT_EQ(all, "time,elec_ess_bus,token 333,named Turbine_N2_1\n1,0,16384,0\n2,0,5,0\n");
+    std::filesystem::remove(scn);
+    std::filesystem::remove(csv);
 }
 
 TEST(ModelMath, EngineCurvesAndStallSpeed) {

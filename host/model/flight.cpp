@@ -100,7 +100,7 @@ void Aircraft::step_flight(Host& h) {
     }
     const double gear = std::clamp(h.token(kGearM) / 16384.0, 0.0, 1.0);
     const double brakes = std::clamp(h.token(kSpeedbrakeL) / 16384.0, 0.0, 1.0);
-    double drag = 0.266 * ias * ias * (1.0 + 0.9 * flaps / 40.0 + 0.35 * gear + 0.5 * brakes);
+    double drag = 0.266 * ias * ias * (1.0 + 0.9 * flaps / 40.0 + 0.2 * gear + 0.5 * brakes);
     const double elevator = h.token(kElevator) / 16384.0;  // + nose down
     double gamma = 0.0;
     double turn = 0.0;  // deg/s, + right
@@ -136,7 +136,7 @@ void Aircraft::step_flight(Host& h) {
         gamma = toward(gamma_now, gamma_target, 2.0);
         bank = std::clamp(bank + bank_rate * kCycle, -60.0, 60.0);
         turn = -1091.0 * std::tan(bank * kDeg) / tas0;
-        drag += w_lb * 0.06 * std::pow(1.3 * vs_kt / std::max(ias, 50.0), 2.0);
+        drag += w_lb * 0.045 * std::pow(1.3 * vs_kt / std::max(ias, 50.0), 2.0);
         const double a = ((thrust_lb - drag) / w_lb - std::sin(gamma * kDeg)) * kG;
         ias = std::max(0.0, ias + a * kCycle);
         alt += tas0 * 101.27 * std::sin(gamma * kDeg) / 60.0 * kCycle;

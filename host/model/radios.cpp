@@ -13,7 +13,7 @@ namespace kestrane::host::model {
 // the north-east, the locator at the outer marker.
 const std::array<Station, 4> kStations = {{
     {Station::Ils, 110.30, -1.6, 0.0, 270.0, true, -0.16, 25.0},
-    {Station::Vor, 113.90, 12.0, 10.0, 0.0, true, 0.0, 60.0},
+    {Station::Vor, 113.90, 20.0, 8.0, 0.0, true, 0.0, 60.0},
     {Station::Ndb, 350.0, 4.5, 0.0, 0.0, false, 0.0, 30.0},
     {Station::Vor, 115.50, -20.0, -5.0, 0.0, false, 0.0, 60.0},
 }};
@@ -350,7 +350,7 @@ void Aircraft::step_radios(Host& h) {
         double dist, to;
         geometry(*s1, dist, to);
         if (dist <= s1->range) {
-            signal = 150.0;
+            signal = 1500.0;  // intercept scale 1500/30 + 30 = 80 needle units (6.3 degrees)
             brg = wrap360(to - hdg);
             if (s1->dme)
                 dme = slant(dist);

@@ -141,7 +141,7 @@ void Aircraft::step_flight(Host& h) {
         ias = std::max(0.0, ias + a * kCycle);
         alt += tas0 * 101.27 * std::sin(gamma * kDeg) / 60.0 * kCycle;
         pitch = gamma + alpha;
-        if (alt <= kFieldFt) {  // touchdown
+        if (alt <= kFieldFt + 3.0 && gamma <= 0.0) {  // touchdown: the wheels meet the runway
             alt = kFieldFt;
             ground = true;
             gamma = 0.0;

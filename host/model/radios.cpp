@@ -349,7 +349,9 @@ void Aircraft::step_radios(Host& h) {
     if (s1) {
         double dist, to;
         geometry(*s1, dist, to);
-        if (dist <= s1->range) {
+        // A localizer is received in its front sector only.
+        const bool sector = s1->kind != Station::Ils || std::fabs(wrap180(to - s1->course)) < 35.0;
+        if (dist <= s1->range && sector) {
             signal = 1500.0;  // intercept scale 1500/30 + 30 = 80 needle units (6.3 degrees)
             brg = wrap360(to - hdg);
             if (s1->dme)
@@ -358,7 +360,7 @@ void Aircraft::step_radios(Host& h) {
                 code = 192.0;
                 cdi = std::clamp(wrap180(to - s1->course) * 50.8, -127.0, 127.0);
                 const double along = x_nm_ - s1->gs_x;  // nm before the glide-slope antenna
-                if (along > 0.0 && along < 12.0 && std::fabs(wrap180(to - s1->course)) < 35.0) {
+                if (along > 0.0 && along < 12.0) {
                     gs_valid = 1.0;
                     const double angle = std::atan2(alt, along * 6076.0) / kDeg;
                     gs = std::clamp((angle - 3.0) / 0.7 * 120.0, -120.0, 120.0);

@@ -275,6 +275,15 @@ struct SoundTable {
     const i16* volumes;
 };
 
+// The module's bitmaps on Linux, whole 24-bit BMP files by resource number
+// (the Windows DLL carries them as bitmap resources instead).
+struct BitmapTable {
+    u32 count;
+    const u32* ids;
+    const u8* const* data;
+    const u32* sizes;
+};
+
 inline constexpr const char* field_type_name(FieldType t) {
     constexpr const char* names[] = {"u8", "i8", "u16", "i16", "u32", "i32", "f32", "f64"};
     return static_cast<u32>(t) < 8 ? names[t] : "?";
@@ -288,4 +297,7 @@ extern KEXPORT kestrane::ModuleLinkage Linkage;
 extern KEXPORT kestrane::ModuleImports ImportTable;
 extern KEXPORT const kestrane::FieldTable KestraneFields;
 extern KEXPORT const kestrane::SoundTable KestraneSounds;
+#if !defined(_WIN32)
+extern KEXPORT const kestrane::BitmapTable KestraneBitmaps;
+#endif
 }

@@ -7,8 +7,8 @@
 #include "host/host.h"
 
 using namespace kestrane;
-using kestrane::host::Host;
 using kestrane::host::default_module_path;
+using kestrane::host::Host;
 
 int main(int argc, char** argv) {
     Host host(argc > 1 ? argv[1] : default_module_path());
@@ -25,16 +25,16 @@ int main(int argc, char** argv) {
                           << e->u.str.box_w << '\t' << e->u.str.box_h << '\n';
                 return;
             }
-            std::cout << "E\t" << i << '\t' << label << '\t' << e->kind << '\t' << e->bitmap << '\t'
-                      << e->x << '\t' << e->y << '\t' << e->ref_x << '\t' << e->ref_y << '\t';
+            std::cout << "E\t" << i << '\t' << label << '\t' << e->kind << '\t' << e->bitmap << '\t' << e->x
+                      << '\t' << e->y << '\t' << e->ref_x << '\t' << e->ref_y << '\t';
             if (e->kind == kNeedle) {
                 for (u32 k = 0; k < e->u.needle.table_count; ++k) {
                     const NeedlePoint& p = e->u.needle.table[k];
                     std::cout << (k ? " " : "") << p.x << ',' << p.y << ',' << p.value;
                 }
             } else if (e->kind == kMovingImage) {
-                std::cout << e->u.moving.min_x << ',' << e->u.moving.max_x << ','
-                          << e->u.moving.min_y << ',' << e->u.moving.max_y;
+                std::cout << e->u.moving.min_x << ',' << e->u.moving.max_x << ',' << e->u.moving.min_y << ','
+                          << e->u.moving.max_y;
             } else if (e->kind == kSprite) {
                 std::cout << e->u.sprite.texture_cx << ',' << e->u.sprite.texture_cy;
             } else if (e->kind == kIcon) {

@@ -1,0 +1,124 @@
+#!/usr/bin/env python3
+"""Makes a first bitmap table from what the gauges declare.
+
+usage: make-table.py DUMP SOURCE_DIR > bitmaps.tsv
+DUMP is the output of bmpdump; captions come from the element comments of the
+gauge sources. Lines refined by hand are kept: rerun only for new bitmaps.
+"""
+import math, os, re, sys
+
+dump, src = sys.argv[1], sys.argv[2]
+gauges, elems, boxes, strings = {}, [], {}, {}
+for line in open(dump):
+    f = line.rstrip('\n').split('\t')
+    if f[0] == 'G':
+        gauges[int(f[1])] = (f[2].replace('kestrane ', ''), int(f[3]))
+    elif f[0] == 'E':
+        elems.append(f[1:])
+    elif f[0] == 'M':
+        boxes.setdefault(int(f[1]), []).append(tuple(map(int, f[2:6])))
+    elif f[0] == 'S':
+        strings.setdefault(int(f[1]), []).append(tuple(map(int, f[3:7])))
+
+captions = {}
+pat = re.compile(r'\b(\d+)\b.*//\s*e[\d.]+\s*(.*)$')
+for root, _, files in os.walk(src):
+    for name in sorted(files):
+        if not name.endswith('.cpp'):
+            continue
+        for line in open(os.path.join(root, name)):
+            m = pat.search(line)
+            if m and m.group(1) not in captions:
+                captions[m.group(1)] = m.group(2).strip().replace('\t', ' ')
+
+def colour(c):
+    c = c.lower()
+    for word, col in (('fire', 'red'), ('warn', 'red'), ('alarm', 'red'), ('red', 'red'),
+                      ('fail', 'red'), ('amber', 'amber'), ('caution', 'amber'), ('low', 'amber'),
+                      ('green', 'green'), ('blue', 'blue'), ('yellow', 'amber')):
+        if word in c:
+            return col
+    return 'white'
+
+def icon_role(c):
+    c = c.lower()
+    if 'night' in c:
+        return 'night'
+    if any(w in c for w in ('light', 'lamp', 'warn', 'caution', 'fire', 'alarm', 'lit', 'flag')):
+        return 'lamp'
+    if any(w in c for w in ('press', 'push', 'button', 'test', 'knob')):
+        return 'button'
+    if any(w in c for w in ('guard', 'switch', 'sw ', 'lever', 'on', 'off', 'up', 'down', 'pos',
+                            'open', 'shut', 'closed', 'left', 'right', 'centre', 'center')):
+        return 'switch'
+    return 'image'
+
+rows, seen = [], set()
+dials = {}  # gauge -> needle marks
+for e in elems:
+    gi, label, kind, bid, x, y, rx, ry, extra = int(e[0]), e[1], int(e[2]), e[3], int(e[4]), int(e[5]), int(e[6]), int(e[7]), e[8] if len(e) > 8 else ''
+    if kind == 1 and extra:
+        dials.setdefault(gi, []).append((x, y, extra))
+
+for e in elems:
+    gi, label, kind, bid = int(e[0]), e[1], int(e[2]), e[3]
+    x, y, rx, ry = int(e[4]), int(e[5]), int(e[6]), int(e[7])
+    extra = e[8] if len(e) > 8 else ''
+    if bid in seen:
+        continue
+    seen.add(bid)
+    gname, gw = gauges[gi]
+    cap = captions.get(bid, '')
+    gb = boxes.get(gi, [])
+    params = ''
+    if label == '0' and kind == 0:
+        w, h = gw, 0
+        for bx, by, bw, bh in gb:
+            w, h = max(w, bx + bw), max(h, by + bh)
+        for sx, sy, sw, sh in strings.get(gi, []):
+            w, h = max(w, sx + sw), max(h, sy + sh)
+        for o in elems:
+            if int(o[0]) == gi and o[1] != '0':
+                w, h = max(w, int(o[4]) + 8), max(h, int(o[5]) + 8)
+        if gi in dials:
+            h = max(h, min(gw, max(int(d[1]) + 8 for d in dials[gi])))
+            role = 'dial'
+            params = ';'.join('%d,%d:%s' % (px, py, ex) for px, py, ex in dials[gi])
+        else:
+            role = 'panel'
+            params = ' '.join('%d,%d,%d,%d' % b for b in gb)
+        if 'night' in cap.lower():
+            role += '-night'
+        h = max(h, 16)
+        cap = cap or gname
+    elif kind == 1:
+        pts = [tuple(map(float, p.split(','))) for p in extra.split()] if extra else []
+        L = min(max([math.hypot(px - x, py - y) for px, py, _ in pts] or [gw * 0.4]), gw * 0.45)
+        w, h = rx + int(L), max(2 * ry + 1, 5)
+        role, params = 'needle', '%d,%d' % (rx, ry)
+    elif kind == 5:
+        mn = [float(v) for v in extra.split(',')] if extra else [0, 0, 0, 0]
+        span = int(max(mn[1] - mn[0], mn[3] - mn[2]))
+        role = 'drum' if mn[3] - mn[2] >= mn[1] - mn[0] else 'drum-h'
+        w, h = (14, span + 22) if role == 'drum' else (span + 16, 20)
+        params = extra
+    elif kind == 6:
+        c = cap.lower()
+        role = 'sphere' if any(k in c for k in ('att', 'horiz', 'sphere', 'ball', 'pitch')) else 'card'
+        w = h = max(64, 2 * rx, 2 * ry)
+        params = '%d,%d' % (rx, ry)
+    else:
+        role = icon_role(cap) if kind in (0, 4) else 'pointer'
+        w = h = 0
+        for bx, by, bw, bh in gb:
+            if bx <= x + 2 and by <= y + 2 and x < bx + bw and y < by + bh:
+                if w == 0 or bw * bh < w * h:
+                    w, h = bx + bw - x, by + bh - y
+        if w == 0:
+            w, h = 24, 20
+        w, h = max(8, min(w, max(8, gw - x))), max(8, h)
+    rows.append((int(bid), gname, w, h, role, cap or role, colour(cap + ' ' + gname) if role in ('lamp', 'button') else '-', params or '-'))
+
+print('# id\tgauge\twidth\theight\trole\tcaption\tcolour\tparams')
+for r in sorted(rows):
+    print('\t'.join(map(str, r)))

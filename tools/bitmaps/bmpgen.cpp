@@ -86,7 +86,11 @@ void caption(cairo_t* cr, const std::string& s, double x, double y, double w, do
     std::vector<std::string> words = split(s, ' ');
     std::vector<std::string> lines;
     std::size_t per = words.size() <= 2 ? 1 : (words.size() + 2) / 3;
-    if (h < 24 || w > 3 * h)
+    cairo_select_font_face(cr, "DejaVu Sans", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_BOLD);
+    cairo_set_font_size(cr, std::min(11.0, h * 0.6));
+    cairo_text_extents_t whole;
+    cairo_text_extents(cr, s.c_str(), &whole);
+    if (h < 24 || w > 3 * h || whole.width <= w - 2)
         per = words.size();
     for (std::size_t i = 0; i < words.size(); i += per) {
         std::string line;

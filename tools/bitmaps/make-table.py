@@ -53,6 +53,19 @@ def icon_role(c):
         return 'switch'
     return 'image'
 
+# Warning lights: the gauge's image is the light, with its legend and colour.
+WARNINGS = {
+    'warn_stall_jm47': ('STALL', 'red'), 'warn_servo_jm47': ('SERVO', 'red'),
+    'warn_hydlvl_jm47': ('HYD LEVEL', 'amber'), 'warn_fuellevel_jm47': ('FUEL LEVEL', 'amber'),
+    'warn_lhoilpress_jm47': ('L OIL PRESS', 'red'), 'warn_rhoilpress_jm47': ('R OIL PRESS', 'red'),
+    'warn_lhengfire_jm47': ('L ENG FIRE', 'red'), 'warn_rhengfire_jm47': ('R ENG FIRE', 'red'),
+    'warn_lhfuelpress_jm47': ('L FUEL PRESS', 'amber'), 'warn_rhfuelpress_jm47': ('R FUEL PRESS', 'amber'),
+    'warn_lhfueltemp_jm47': ('L FUEL TEMP', 'amber'), 'warn_rhfueltemp_jm47': ('R FUEL TEMP', 'amber'),
+    'warn_ice_jm47': ('ICE', 'amber'), 'warn_cabinexcalt_jm47': ('CABIN ALT', 'red'),
+    'warn_elec_jm47': ('ELEC', 'amber'),
+}
+SPHERES = ('fdadi_jm47', 'horiz_sec_jm47', 'fdadimini_jm47')
+
 rows, seen = [], set()
 dials = {}  # gauge -> needle marks
 for e in elems:
@@ -117,7 +130,11 @@ for e in elems:
         if w == 0:
             w, h = 24, 20
         w, h = max(8, min(w, max(8, gw - x))), max(8, h)
-    rows.append((int(bid), gname, w, h, role, cap or role, colour(cap + ' ' + gname) if role in ('lamp', 'button') else '-', params or '-'))
+    if gname in WARNINGS and role in ('panel', 'image'):
+        cap, role = WARNINGS[gname][0], 'lamp'
+    if gname in SPHERES and role == 'card':
+        role = 'sphere'
+    rows.append((int(bid), gname, w, h, role, cap or role, (WARNINGS[gname][1] if gname in WARNINGS else colour(cap + ' ' + gname)) if role in ('lamp', 'button') else '-', params or '-'))
 
 print('# id\tgauge\twidth\theight\trole\tcaption\tcolour\tparams')
 for r in sorted(rows):

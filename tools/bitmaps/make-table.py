@@ -3,7 +3,8 @@
 
 usage: make-table.py DUMP SOURCE_DIR > bitmaps.tsv
 DUMP is the output of bmpdump; captions come from the element comments of the
-gauge sources. Lines refined by hand are kept: rerun only for new bitmaps.
+gauge sources. Refinements (warning-light legends and colours, attitude
+spheres) live below, so the table can be remade whenever declarations change.
 """
 import math, os, re, sys
 

@@ -142,8 +142,6 @@ void draw_panel(cairo_t* cr, const Bitmap& b, bool night) {
     std::string label = b.caption;
     if (label.rfind("kestrane ", 0) == 0)
         label = label.substr(9);
-    if (has(label, "click area"))
-        label = b.gauge.substr(b.gauge.find('_') + 1);
     text(cr, label, b.w / 2.0, std::min(9.0, b.h / 2.0), std::min(10.0, b.h * 0.6), b.w - 4, true);
     // screws in the corners of larger panels
     if (b.w > 60 && b.h > 40) {
@@ -347,6 +345,15 @@ void draw_image(cairo_t* cr, const Bitmap& b, bool night) {
     caption(cr, b.caption, 1, 1, b.w - 2, b.h - 2);
 }
 
+// Where an invisible window toggle lies: a yellow frame on the transparent colour.
+void draw_area(cairo_t* cr, const Bitmap& b) {
+    cairo_set_source_rgb(cr, 1.0, 0.85, 0.1);
+    cairo_set_line_width(cr, 2);
+    cairo_rectangle(cr, 1, 1, b.w - 2, b.h - 2);
+    cairo_stroke(cr);
+    caption(cr, b.caption, 3, 3, b.w - 6, b.h - 6);
+}
+
 void draw_pointer(cairo_t* cr, const Bitmap& b) {
     set(cr, kEngrave);
     cairo_move_to(cr, 0, 0);
@@ -378,6 +385,8 @@ void draw(cairo_t* cr, const Bitmap& b) {
         draw_button(cr, b);
     else if (r == "switch")
         draw_switch(cr, b);
+    else if (r == "area")
+        draw_area(cr, b);
     else if (r == "pointer")
         draw_pointer(cr, b);
     else

@@ -104,7 +104,10 @@ for e in elems:
         if 'night' in cap.lower():
             role += '-night'
         h = max(h, 16)
-        cap = cap or gname
+        if cap == 'click area':
+            role = 'area'
+        if not cap or cap.startswith('background') or cap in ('click area', 'dial', 'released'):
+            cap = gname.replace('_jm47', '').replace('_', ' ').upper()
     elif kind == 1:
         pts = [tuple(map(float, p.split(','))) for p in extra.split()] if extra else []
         L = min(max([math.hypot(px - x, py - y) for px, py, _ in pts] or [gw * 0.4]), gw * 0.45)

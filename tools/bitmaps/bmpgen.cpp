@@ -342,7 +342,8 @@ void draw_switch(cairo_t* cr, const Bitmap& b) {
 void draw_image(cairo_t* cr, const Bitmap& b, bool night) {
     bevel(cr, 0, 0, b.w, b.h, night ? kPanelNight : Rgb{0.22, 0.24, 0.26});
     set(cr, night ? kEngraveNight : kEngrave);
-    caption(cr, b.caption, 1, 1, b.w - 2, b.h - 2);
+    if (b.caption != "image")
+        caption(cr, b.caption, 1, 1, b.w - 2, b.h - 2);
 }
 
 // Where an invisible window toggle lies: a yellow frame on the transparent colour.

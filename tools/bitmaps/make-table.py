@@ -95,7 +95,12 @@ for e in elems:
             if int(o[0]) == gi and o[1] != '0':
                 w, h = max(w, int(o[4]) + 8), max(h, int(o[5]) + 8)
         if gi in dials:
-            h = max(h, min(gw, max(int(d[1]) + 8 for d in dials[gi])))
+            # the whole face of every scale, within reason
+            for px, py, ex in dials[gi]:
+                pts = [tuple(map(float, p.split(',')[:2])) for p in ex.split()]
+                r = max(math.hypot(qx - px, qy - py) for qx, qy in pts)
+                if r < gw:
+                    h = max(h, int(py + r + 8))
             role = 'dial'
             params = ';'.join('%d,%d:%s' % (px, py, ex) for px, py, ex in dials[gi])
         else:

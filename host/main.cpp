@@ -113,6 +113,9 @@ int list_panel(Host& host, const std::string& path) {
     std::cout << p->windows.size() << " windows, " << total << " gauges placed, "
               << std::count(placed.begin(), placed.end(), true) << " of " << host.gauge_count()
               << " gauges of the module\n";
+    for (int i = 0; i < host.gauge_count(); ++i)
+        if (!placed[static_cast<std::size_t>(i)])
+            std::cout << "not placed: " << host.gauge(i)->name << '\n';
     return 0;
 }
 

@@ -7,8 +7,8 @@
 namespace kestrane::host::panel {
 
 // Width: the registry's default width. Height: the lowest edge that a mouse
-// box or an element position of the gauge reaches; a gauge whose images all
-// sit on its top edge gets kMinHeight, or its width when narrower.
+// box or an element position of the gauge reaches; a gauge without mouse boxes
+// whose images sit near its top edge gets kMinHeight, or its width when narrower.
 inline constexpr int kMinHeight = 32;
 Size default_size(GaugeHeader* g);
 

@@ -104,6 +104,7 @@ Host::Host(std::string module_path) : module_path_(std::move(module_path)) {
     windows_.reserve(256);
     named_.reserve(64);
     installed_.reserve(256);
+    installed_slots_.reserve(256);
     reload();
 }
 
@@ -117,6 +118,7 @@ Host::~Host() {
 
 void Host::reset_tables() {
     installed_.clear();
+    installed_slots_.clear();
     drawn_.clear();
     gauge_by_name_.clear();
     field_by_name_.clear();
@@ -191,7 +193,9 @@ void Host::install(GaugeHeader* g) {
     if (g == nullptr || installed(g))
         return;
     installed_.push_back(g);
-    for (Drawn& d : drawn_[g])
+    std::vector<Drawn>& slots = drawn_[g];  // nodes are stable: keep a pointer
+    installed_slots_.push_back(&slots);
+    for (Drawn& d : slots)
         d.have = 0;
     if (g->callback)
         g->callback(g, 2, reinterpret_cast<std::uintptr_t>(module_ ? module_->handle() : nullptr));
@@ -245,6 +249,7 @@ void Host::remove(GaugeHeader* g) {
         return;
     if (g->callback)
         g->callback(g, 12, 0);
+    installed_slots_.erase(installed_slots_.begin() + (it - installed_.begin()));
     installed_.erase(it);
 }
 
@@ -265,7 +270,10 @@ void Host::run(int cycles) {
             GaugeHeader* g = installed_[i];
             if (g->callback)
                 g->callback(g, 6, 0);
-            draw(g);
+            if (g->elements != nullptr) {
+                std::size_t at = 0;
+                draw_element(g->elements[0], 0, *installed_slots_[i], at);
+            }
         }
         if (recorder_) {
             sound_.advance(&recorder_->cycle_buffer());
@@ -372,6 +380,11 @@ bool find_slot(const Element* e, const Element* target, int depth, std::size_t& 
     return false;
 }
 }  // namespace
+
+const std::vector<Drawn>* Host::drawn_slots(const GaugeHeader* g) const {
+    auto it = drawn_.find(g);
+    return it == drawn_.end() ? nullptr : &it->second;
+}
 
 const Drawn* Host::drawn(GaugeHeader* g, const Element* e) const {
     if (g == nullptr || g->elements == nullptr || e == nullptr)

@@ -62,6 +62,11 @@ struct Command {
     int axis = 0;    // expect value: 0 needle or x, 1 y, 2 rotation
 };
 
+// Bounds on what a script may ask: its size, one line, one run or hold.
+inline constexpr std::size_t kMaxScriptBytes = 4u << 20;
+inline constexpr std::size_t kMaxLineBytes = 4096;
+inline constexpr int kMaxCycles = 1000000;
+
 struct Script {
     std::string file;
     std::vector<Command> commands;

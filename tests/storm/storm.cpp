@@ -126,7 +126,8 @@ u32 KCALL w_window_toggle(u32 ident) {
 }
 
 u32 KCALL w_register_named(const char* name) {
-    if (name != nullptr && find_text(g_seen.named_ptr, g_seen.named_count, name) < 0 && g_seen.named_count < 256)
+    if (name != nullptr && find_text(g_seen.named_ptr, g_seen.named_count, name) < 0 &&
+        g_seen.named_count < 256)
         g_seen.named_ptr[g_seen.named_count++] = name;
     return g_seen.original.register_named_variable(name);
 }
@@ -216,6 +217,19 @@ void snapshot(Element* e, int depth) {
             snapshot(*c, depth + 1);
 }
 
+// The element drawn k-th (each element, then its children in list order).
+const Element* drawn_element(const Element* e, std::size_t& k, int depth) {
+    if (e == nullptr || depth > 256)
+        return nullptr;
+    if (k-- == 0)
+        return e;
+    if (e->children)
+        for (Element** c = e->children; *c != nullptr; ++c)
+            if (const Element* found = drawn_element(*c, k, depth + 1))
+                return found;
+    return nullptr;
+}
+
 struct Storm {
     Host& host;
     const Options& opt;
@@ -242,12 +256,21 @@ bool Storm::fail(const char* fmt, ...) {
     std::vsnprintf(what, sizeof what, fmt, ap);
     va_end(ap);
     std::snprintf(res.failure, sizeof res.failure, "seed %llu mode %s step %ld cycle %ld after %s: %s",
-                  static_cast<unsigned long long>(opt.seed), mode_name(opt.mode), res.steps, res.cycles, action,
-                  what);
+                  static_cast<unsigned long long>(opt.seed), mode_name(opt.mode), res.steps, res.cycles,
+                  action, what);
     res.failed = true;
     res.tokens = g_seen.token_count;
     res.named = g_seen.named_count;
     res.expressions = g_seen.calc_count;
+    return false;
+}
+
+// Fields that hold a host value as read while their instrument is off or out
+// of range: a non-finite value the host gave stays until it is read again.
+bool holds_host_value(const char* field) {
+    for (const char* f : {"hsi_cdi", "hsi_card", "fd_gs_vs_target"})
+        if (std::strcmp(field, f) == 0)
+            return true;
     return false;
 }
 
@@ -261,7 +284,8 @@ bool Storm::check(bool calm) {
     if (const FieldTable* t = host.field_table())
         for (u32 i = 0; i < t->count; ++i) {
             const FieldInfo& f = t->fields[i];
-            if (all_finite && (f.type == kF32 || f.type == kF64) && !std::isfinite(host.read_field(f)))
+            if (all_finite && (f.type == kF32 || f.type == kF64) && !std::isfinite(host.read_field(f)) &&
+                !(calm && holds_host_value(f.name)))
                 return fail("state field %s is %g", f.name, host.read_field(f));
         }
     for (GaugeHeader* g : host.installed_gauges()) {
@@ -274,8 +298,12 @@ bool Storm::check(bool calm) {
                 if ((d.have & (1u << a)) == 0)
                     continue;
                 const f64 v = d.value[a];
-                if (std::isinf(v) || (all_finite && std::isnan(v)))
-                    return fail("\"%s\" drew %g (element %zu in drawing order, axis %d)", g->name, v, k, a);
+                if (opt.mode == Mode::Finite && !std::isfinite(v)) {
+                    std::size_t at = k;
+                    const Element* e = drawn_element(g->elements[0], at, 0);
+                    return fail("\"%s\" drew %g (element %zu in drawing order, image %u, axis %d)", g->name,
+                                v, k, e ? e->bitmap : 0u, a);
+                }
             }
         }
     }
@@ -329,7 +357,10 @@ void Storm::mouse() {
         return;
     }
     std::snprintf(action, sizeof action, "%s \"%s\" %d %d",
-                  kind == kMouseLeft ? "click" : kind == kMouseRight ? "rclick" : "move", g->name, x, y);
+                  kind == kMouseLeft    ? "click"
+                  : kind == kMouseRight ? "rclick"
+                                        : "move",
+                  g->name, x, y);
     host.click(g, x, y, kind);
     cycles(rng.between(1, 50));
 }
@@ -413,7 +444,8 @@ const char* mode_name(Mode m) {
 bool run_episode(Host& host, const Options& options, Result& result) {
     result = Result{};
     if ((options.reload && !host.reload()) || !wrap_services()) {
-        std::snprintf(result.failure, sizeof result.failure, "cannot load the module: %s", host.error().c_str());
+        std::snprintf(result.failure, sizeof result.failure, "cannot load the module: %s",
+                      host.error().c_str());
         result.failed = true;
         return false;
     }

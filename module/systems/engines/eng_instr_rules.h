@@ -304,7 +304,7 @@ inline f32 fuel_temperature(f64 rankine) {
 // Fuel temperature needle: on the essential bus; unpowered it drops to the stop.
 inline void fuel_temp_needle(f64& shown, f32 temperature) {
     if (ac.elec_ess_bus == 1) {
-        if (temperature - static_cast<f32>(shown) <= 20.0f)
+        if (temperature - trunc_to<f32>(shown) <= 20.0f)
             shown = temperature;
         else
             shown += 20.0;

@@ -104,7 +104,7 @@ Host::Host(std::string module_path) : module_path_(std::move(module_path)) {
     windows_.reserve(256);
     named_.reserve(64);
     installed_.reserve(256);
-    installed_slots_.reserve(256);
+    draw_lists_.reserve(256);
     reload();
 }
 
@@ -118,7 +118,7 @@ Host::~Host() {
 
 void Host::reset_tables() {
     installed_.clear();
-    installed_slots_.clear();
+    draw_lists_.clear();
     drawn_.clear();
     gauge_by_name_.clear();
     field_by_name_.clear();
@@ -194,7 +194,12 @@ void Host::install(GaugeHeader* g) {
         return;
     installed_.push_back(g);
     std::vector<Drawn>& slots = drawn_[g];  // nodes are stable: keep a pointer
-    installed_slots_.push_back(&slots);
+    DrawList list{&slots, {}};
+    std::uint32_t at = 0;
+    flatten(g->elements ? g->elements[0] : nullptr, 0, at, list.items);
+    if (slots.size() < at)
+        slots.resize(at);
+    draw_lists_.push_back(std::move(list));
     for (Drawn& d : slots)
         d.have = 0;
     if (g->callback)
@@ -249,7 +254,7 @@ void Host::remove(GaugeHeader* g) {
         return;
     if (g->callback)
         g->callback(g, 12, 0);
-    installed_slots_.erase(installed_slots_.begin() + (it - installed_.begin()));
+    draw_lists_.erase(draw_lists_.begin() + (it - installed_.begin()));
     installed_.erase(it);
 }
 
@@ -270,10 +275,11 @@ void Host::run(int cycles) {
             GaugeHeader* g = installed_[i];
             if (g->callback)
                 g->callback(g, 6, 0);
-            if (g->elements != nullptr) {
-                std::size_t at = 0;
-                draw_element(g->elements[0], 0, *installed_slots_[i], at);
-            }
+            DrawList& list = draw_lists_[i];
+            std::vector<Drawn>& slots = *list.slots;
+            for (const DrawItem& item : list.items)
+                if ((item.e->flags & kHidden) == 0)
+                    draw_item(item.e, slots[item.slot]);
         }
         if (recorder_) {
             sound_.advance(&recorder_->cycle_buffer());
@@ -319,50 +325,74 @@ void Host::draw_element(Element* e, int depth, std::vector<Drawn>& slots, std::s
     if (slots.size() <= at)
         slots.resize(at + 1);
     Drawn& d = slots[at++];
+    if ((e->flags & kHidden) == 0)
+        draw_item(e, d);
+    if (e->children)
+        for (Element** c = e->children; *c != nullptr; ++c)
+            draw_element(*c, depth + 1, slots, at);
+}
+
+// One shown element: its value and string callbacks, as the simulator calls them.
+void Host::draw_item(Element* e, Drawn& d) {
     auto value = [&](ValueCallback cb, int i) {
         if (cb == nullptr)
             return;
         d.value[i] = cb(e);
         d.have |= static_cast<u8>(1u << i);
     };
-    if ((e->flags & kHidden) == 0) {
-        switch (e->kind) {
-            case kNeedle:
-                if (e->u.needle.callback)
-                    value(e->u.needle.callback, 0);
-                else if (e->u.needle.source.id)
-                    svc_lookup_var(&e->u.needle.source);
-                break;
-            case kString:
-                if (e->u.str.callback) {
-                    e->u.str.callback(e);
-                    const char* t = e->u.str.text;
-                    const char* end =
-                        t ? static_cast<const char*>(std::memchr(t, 0, e->u.str.char_count + 1)) : t;
-                    d.text.assign(t ? t : "", t ? (end ? end : t + e->u.str.char_count + 1) - t : 0);
-                    d.have |= Drawn::kText;
-                }
-                break;
-            case kSlider:
-                value(e->u.slider.callback_x, 0);
-                value(e->u.slider.callback_y, 1);
-                break;
-            case kMovingImage:
-                value(e->u.moving.callback_x, 0);
-                value(e->u.moving.callback_y, 1);
-                break;
-            case kSprite:
-                value(e->u.sprite.callback_x, 0);
-                value(e->u.sprite.callback_y, 1);
-                value(e->u.sprite.callback_rot, 2);
-                break;
-            default:
-                break;
-        }
+    switch (e->kind) {
+        case kNeedle:
+            if (e->u.needle.callback)
+                value(e->u.needle.callback, 0);
+            else if (e->u.needle.source.id)
+                svc_lookup_var(&e->u.needle.source);
+            break;
+        case kString:
+            if (e->u.str.callback) {
+                e->u.str.callback(e);
+                const char* t = e->u.str.text;
+                const char* end =
+                    t ? static_cast<const char*>(std::memchr(t, 0, e->u.str.char_count + 1)) : t;
+                d.text.assign(t ? t : "", t ? (end ? end : t + e->u.str.char_count + 1) - t : 0);
+                d.have |= Drawn::kText;
+            }
+            break;
+        case kSlider:
+            value(e->u.slider.callback_x, 0);
+            value(e->u.slider.callback_y, 1);
+            break;
+        case kMovingImage:
+            value(e->u.moving.callback_x, 0);
+            value(e->u.moving.callback_y, 1);
+            break;
+        case kSprite:
+            value(e->u.sprite.callback_x, 0);
+            value(e->u.sprite.callback_y, 1);
+            value(e->u.sprite.callback_rot, 2);
+            break;
+        default:
+            break;
     }
+}
+
+namespace {
+// The elements of the tree under `e` that drawing does something for, with
+// their preorder positions (the drawing's slot numbers).
+template <class Item>
+void flatten_into(Element* e, int depth, std::uint32_t& at, std::vector<Item>& items) {
+    if (e == nullptr || depth > 256)
+        return;
+    const std::uint32_t slot = at++;
+    if (element_callbacks(e) != 0 || (e->kind == kNeedle && e->u.needle.source.id != 0))
+        items.push_back({e, slot});
     if (e->children)
         for (Element** c = e->children; *c != nullptr; ++c)
-            draw_element(*c, depth + 1, slots, at);
+            flatten_into(*c, depth + 1, at, items);
+}
+}  // namespace
+
+void Host::flatten(Element* e, int depth, std::uint32_t& at, std::vector<DrawItem>& items) {
+    flatten_into(e, depth, at, items);
 }
 
 namespace {

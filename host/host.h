@@ -205,7 +205,19 @@ private:
     HostServices services_{};
 
     std::vector<GaugeHeader*> installed_;
-    std::vector<std::vector<Drawn>*> installed_slots_;  // drawn_ of each installed gauge
+    // What drawing an installed gauge does, flattened at install: the elements
+    // that have something to draw, each with its slot in the gauge's drawn_.
+    struct DrawItem {
+        Element* e;
+        std::uint32_t slot;
+    };
+    struct DrawList {
+        std::vector<Drawn>* slots;
+        std::vector<DrawItem> items;
+    };
+    std::vector<DrawList> draw_lists_;  // one per installed gauge, in install order
+    void draw_item(Element* e, Drawn& d);
+    static void flatten(Element* e, int depth, std::uint32_t& at, std::vector<DrawItem>& items);
     // Per gauge, the drawn values of its elements in drawing (preorder) order.
     std::unordered_map<const GaugeHeader*, std::vector<Drawn>> drawn_;
     std::unordered_map<std::string_view, int> gauge_by_name_;

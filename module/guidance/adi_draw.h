@@ -56,4 +56,24 @@ inline f64 KCALL speed_dev(Element*) {
 // Speed-deviation needle: slow at the bottom, fast at the top.
 inline NeedlePoint speed_dev_scale[] = {{60, 320, -10.0, 0.0}, {60, 260, 5.0, 0.0}, {60, 200, 20.0, 0.0}};
 
+// e0 to e8, the images every ADI gauge draws, then the gauge's own further
+// images. Each gauge brings its sphere pitch and speed-deviation callbacks.
+template <class G, class... More>
+constexpr auto layout(G g, ValueCallback pitch, ValueCallback deviation, More... more) {
+    using namespace def;
+    return g.elements(
+        failing(image(42016, 0x4001), kAttitudeFailure),  // e0 background (unlit)
+        failing(sprite(42017, 150, 150, 150, 150, 0x4003, 150, 150, none, pitch, bank),
+                kAttitudeFailure),  // e1 attitude sphere
+        failing(sprite(42018, 150, 150, 150, 150, 0x4083, 150, 150, none, none, bank),
+                kAttitudeFailure),                                          // e2 bank scale
+        moving(42019, 26, 36, 0x4003, across, speed_dev_pos, 0, 1, 0, 15),  // e3 speed deviation
+        icon(42020, 57, 188, 0x40000003),                                   // e4 FD flag
+        icon(42021, 193, 199, 0x40000003),                                  // e5 attitude flag
+        moving(42022, 27, 12, 0x4003, across, pitch_bar, 0, 1, -4, 11),     // e6 pitch bar
+        moving(42023, 27, 12, 0x4003, roll_bar, across, 1, 14, 0, 1),       // e7 roll bar
+        needle(42024, 42, 260, 3, 30, 0x4003, deviation, speed_dev_scale),  // e8 speed deviation needle
+        more...);
+}
+
 }  // namespace kestrane::adi

@@ -1,17 +1,21 @@
 // kestrane compass_jm47: standby compass card. A click shows or hides the
 // host's compass.
+#include "guidance/compass.h"
+
 #include "frame/gauge.h"
 
-namespace {
-using namespace kestrane;
-
-ModuleVar compass_heading = token(83);
-
+namespace kestrane::compass {
 u32 KCALL toggle(PixPoint*, u32) {
     host::send_event(ac.compass_shown != 1 ? 66513 : 66514);
     ac.compass_shown = ac.compass_shown == 1 ? 0 : 1;
     return 0;
 }
+}  // namespace kestrane::compass
+
+namespace {
+using namespace kestrane;
+
+ModuleVar compass_heading = token(83);
 
 // The card strip slides across: 360 - heading, 0 off the strip.
 f64 KCALL card_x(Element*) {
@@ -25,4 +29,4 @@ KESTRANE_GAUGE(compass,
                    .help(0xAB77)
                    .elements(image(42832, 0x4001),                                          // e0 background
                              moving(44656, 22, 41, 0x4003, card_x, nullptr, 0, 360, 0, 0))  // e1 card
-                   .mouse(click(0, 0, 118, 124, kCursorHand, toggle)))
+                   .mouse(click(0, 0, 118, 124, kCursorHand, compass::toggle)))

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "frame/drum.h"
-#include "frame/gauge_abi.h"
+#include "frame/gauge.h"
 #include "guidance/nav_rules.h"
 
 namespace kestrane::hsi {
@@ -35,5 +35,103 @@ u32 KCALL heading_minus_10(PixPoint*, u32);
 u32 KCALL heading_plus_10(PixPoint*, u32);
 // DME source: off, DME 1, DME 2.
 u32 KCALL dme_select(PixPoint*, u32);
+
+// HSI power: AC bus 1 and the TADG.
+inline bool powered() {
+    return ac.elec_ac_bus_1 == 1 && ac.elec_tadg_on == 1;
+}
+
+// Display values both HSIs draw alike.
+inline f64 KCALL card(Element*) {
+    return ac.hsi_card;
+}
+inline f64 KCALL course_angle(Element*) {
+    return ac.hsi_course_angle;
+}
+inline f64 KCALL bar_offset(Element*) {
+    return powered() ? ac.hsi_cdi : 0.0;
+}
+inline f64 KCALL bug_angle(Element*) {
+    return ac.hsi_bug_angle;
+}
+inline f64 KCALL course_knob(Element*) {
+    return display.course_knob;
+}
+inline f64 KCALL heading_knob(Element*) {
+    return display.heading_knob;
+}
+inline f64 KCALL bug_hundreds(Element*) {
+    return ac.hsi_hdg_bug / 100;
+}
+inline f64 KCALL bug_tens(Element*) {
+    return ac.hsi_hdg_bug % 100 / 10;
+}
+inline f64 KCALL bug_units(Element*) {
+    return ac.hsi_hdg_bug % 10;
+}
+
+// Needles are linear: the value is the angle in degrees.
+inline NeedlePoint linear[] = {{0, 0, 0.0, 0.0}, {0, 0, 360.0, 0.0}};
+
+// The readouts each HSI gauge draws in its own way: the full instrument rolls
+// the course drums and clamps its pointer and DME digits, its small copy only
+// reads them.
+struct Readouts {
+    ValueCallback gs_pointer;
+    ValueCallback course[3];  // hundreds, tens, units
+    ValueCallback dme[3];
+};
+
+inline constexpr u32 kShown = 0x4003;
+inline constexpr u32 kHiddenIcon = 0x40000003;
+inline constexpr i32 kCx = 175, kCy = 157;  // dial centre
+
+// The images and knob areas of both HSI gauges.
+template <class G>
+constexpr auto layout(G g, Readouts r) {
+    using namespace def;
+    return g
+        .elements(
+            image(42032, 0x4001),                                                     // e0 background
+            sprite(44016, 0, 0, kCx, kCy, kShown, 128, 128, nullptr, nullptr, card),  // e1 compass card
+            needle(44032, kCx, kCy, 6, 100, kShown, course_angle, linear),            // e2 course pointer
+            needle(44048, kCx, kCy, 6, 100, kHiddenIcon, course_angle, linear),  // e3 NAV-flagged pointer
+            needle(44064, kCx, kCy, 6, 60, kHiddenIcon, course_angle, linear),   // e4 FROM arrow
+            needle(44080, kCx, kCy, 6, 60, kHiddenIcon, course_angle, linear),   // e5 TO arrow
+            sprite(44096, 0, 0, kCx, kCy, kShown, 4, 60, bar_offset, nullptr,
+                   course_angle),                                                 // e6 deviation bar
+            icon(44112, 98, 100, kHiddenIcon),                                    // e7 glide-slope scale
+            moving(44128, 98, 84, kShown, nullptr, r.gs_pointer, 0, 0, -1, 11),   // e8 glide-slope pointer
+            icon(44144, 98, 144, kHiddenIcon),                                    // e9 glide-slope flag
+            needle(44160, kCx, kCy, 8, 110, kShown, bug_angle, linear),           // e10 heading needle
+            icon(44176, 159, 141, kShown),                                        // e11 aircraft symbol
+            moving(44192, 57, 26, kShown, nullptr, r.course[0], 0, 0, 0, 10),     // e12 course hundreds
+            moving(44192, 75, 26, kShown, nullptr, r.course[1], 0, 0, 0, 10),     // e13 course tens
+            moving(44192, 93, 26, kShown, nullptr, r.course[2], 0, 0, 0, 10),     // e14 course units
+            icon(44208, 231, 24, kHiddenIcon),                                    // e15 DME 1 label
+            moving(44224, 233, 26, kHiddenIcon, nullptr, r.dme[0], 0, 0, 0, 10),  // e16 DME hundreds
+            moving(44224, 251, 26, kHiddenIcon, nullptr, r.dme[1], 0, 0, 0, 10),  // e17 DME tens
+            moving(44224, 269, 26, kHiddenIcon, nullptr, r.dme[2], 0, 0, 0, 10),  // e18 DME units
+            icon(44240, 237, 52, kHiddenIcon),                                    // e19 DME 2 label
+            icon(44256, 232, 32, kHiddenIcon),                                    // e20 DME flag
+            needle(44272, 52, 246, 21, 21, kShown, course_knob, linear),          // e21 course knob
+            needle(44288, 298, 246, 21, 21, kShown, heading_knob, linear),        // e22 heading knob
+            needle(44304, 52, 246, 21, 21, kHiddenIcon, course_knob, linear),     // e23 course knob, lit
+            needle(44320, 298, 246, 21, 21, kHiddenIcon, heading_knob, linear),   // e24 heading knob, lit
+            icon(44336, 234, 77, kHiddenIcon),                                    // e25 heading flag
+            icon(44352, 271, 89, kHiddenIcon),                                    // e26 GPS annunciator
+            moving(44368, 145, 14, kHiddenIcon, nullptr, bug_hundreds, 0, 0, 0, 10),  // e27 heading hundreds
+            moving(44368, 163, 14, kHiddenIcon, nullptr, bug_tens, 0, 0, 0, 10),      // e28 heading tens
+            moving(44368, 181, 14, kHiddenIcon, nullptr, bug_units, 0, 0, 0, 10))     // e29 heading units
+        .mouse(repeat(9, 203, 42, 42, kCursorDown, course_minus_1),
+               repeat(51, 203, 42, 42, kCursorUp, course_plus_1),
+               repeat(9, 245, 42, 42, kCursorDown, course_minus_10),
+               repeat(51, 245, 42, 42, kCursorUp, course_plus_10),
+               repeat(256, 203, 42, 42, kCursorDown, heading_minus_1),
+               repeat(298, 203, 42, 42, kCursorUp, heading_plus_1),
+               repeat(256, 245, 42, 42, kCursorDown, heading_minus_10),
+               repeat(298, 245, 42, 42, kCursorUp, heading_plus_10),
+               click(217, 13, 85, 60, kCursorHand, dme_select));
+}
 
 }  // namespace kestrane::hsi

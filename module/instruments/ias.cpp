@@ -219,31 +219,16 @@ using namespace kestrane::ias;
 
 KESTRANE_GAUGE(
     ias,
-    gauge("kestrane ias_jm47", 206, update)
-        .elements(image(kDialBitmap, 0x4001),  // e0 dial
-                  needle(kSpeedNeedleBitmap, kPivotX, kPivotY, kSpeedRefX, kSpeedRefY, kNeedleFlags,
-                         speed_needle,
-                         speed_scale),  // e1 airspeed
-                  needle(kMaxNeedleBitmap, kPivotX, kPivotY, kSpeedRefX, kSpeedRefY, kNeedleFlags, max_needle,
-                         max_scale),  // e2 second
-                  needle(kBug1Bitmap, kPivotX, kPivotY, kBugRefX, kBugRefY, kNeedleFlags, bug_1_needle,
-                         bug1_scale),  // e3 bug 1
-                  needle(kBug2Bitmap, kPivotX, kPivotY, kBugRefX, kBugRefY, kNeedleFlags, bug_2_needle,
-                         bug2_scale),                  // e4 bug 2
-                  icon(44464, 0, 164, kLightFlags),    // e5 preset-1 light
-                  icon(44480, 102, 164, kLightFlags),  // e6 preset-2 light
-                  icon(44496, 0, 0, kLabelFlags),      // e7 ground label
-                  icon(44512, 0, 0, kLabelFlags),      // e8 flight label
-                  moving(44528, 137, 43, kDigitFlags, strip_x, lower_units, 0, 10, 0, 10),  // e9 lower units
-                  moving(44528, 119, 43, kDigitFlags, strip_x, lower_tens, 0, 10, 0, 10),   // e10 lower tens
-                  moving(44528, 101, 43, kDigitFlags, strip_x, hundreds, 0, 10, 0, 10),  // e11 lower hundreds
-                  moving(44528, 137, 11, kDigitFlags, strip_x, upper_units, 0, 10, 0, 10),  // e12 upper units
-                  moving(44528, 119, 11, kDigitFlags, strip_x, upper_tens, 0, 10, 0, 10),   // e13 upper tens
-                  moving(44528, 101, 11, kDigitFlags, strip_x, hundreds, 0, 10, 0, 10))  // e14 upper hundreds
-        .mouse(repeat(0, 0, 25, 43, kCursorDown, bug_1_down_area),
-               repeat(25, 0, 25, 43, kCursorUp, bug_1_up_area),
-               repeat(156, 0, 25, 43, kCursorDown, bug_2_down_area),
-               repeat(181, 0, 25, 43, kCursorUp, bug_2_up_area),
-               click(0, 136, 70, 70, kCursorHand, preset_takeoff_area),
-               click(136, 136, 70, 70, kCursorHand, preset_approach_area),
-               click(69, 46, 70, 70, kCursorHand, toggle_display)))
+    knobs(dial(gauge("kestrane ias_jm47", 206, update),
+               {speed_needle, max_needle, bug_1_needle, bug_2_needle},
+               icon(44464, 0, 164, kLightFlags),                                         // e5 preset-1 light
+               icon(44480, 102, 164, kLightFlags),                                       // e6 preset-2 light
+               icon(44496, 0, 0, kLabelFlags),                                           // e7 ground label
+               icon(44512, 0, 0, kLabelFlags),                                           // e8 flight label
+               moving(44528, 137, 43, kDigitFlags, strip_x, lower_units, 0, 10, 0, 10),  // e9 lower units
+               moving(44528, 119, 43, kDigitFlags, strip_x, lower_tens, 0, 10, 0, 10),   // e10 lower tens
+               moving(44528, 101, 43, kDigitFlags, strip_x, hundreds, 0, 10, 0, 10),     // e11 lower hundreds
+               moving(44528, 137, 11, kDigitFlags, strip_x, upper_units, 0, 10, 0, 10),  // e12 upper units
+               moving(44528, 119, 11, kDigitFlags, strip_x, upper_tens, 0, 10, 0, 10),   // e13 upper tens
+               moving(44528, 101, 11, kDigitFlags, strip_x, hundreds, 0, 10, 0, 10)),    // e14 upper hundreds
+          click(69, 46, 70, 70, kCursorHand, toggle_display)))

@@ -72,4 +72,38 @@ u32 KCALL bug_2_up_area(PixPoint*, u32);
 u32 KCALL preset_takeoff_area(PixPoint*, u32);
 u32 KCALL preset_approach_area(PixPoint*, u32);
 
+// The needles' value callbacks of one airspeed gauge.
+struct Needles {
+    ValueCallback speed, second, bug_1, bug_2;
+};
+
+// The dial and its four needles (e0 to e4), then the gauge's own images.
+template <class G, class... More>
+constexpr auto dial(G g, Needles n, More... more) {
+    using namespace def;
+    return g.elements(
+        image(kDialBitmap, 0x4001),  // e0 dial
+        needle(kSpeedNeedleBitmap, kPivotX, kPivotY, kSpeedRefX, kSpeedRefY, kNeedleFlags, n.speed,
+               speed_scale),  // e1 airspeed
+        needle(kMaxNeedleBitmap, kPivotX, kPivotY, kSpeedRefX, kSpeedRefY, kNeedleFlags, n.second,
+               max_scale),  // e2 second
+        needle(kBug1Bitmap, kPivotX, kPivotY, kBugRefX, kBugRefY, kNeedleFlags, n.bug_1,
+               bug1_scale),  // e3 bug 1
+        needle(kBug2Bitmap, kPivotX, kPivotY, kBugRefX, kBugRefY, kNeedleFlags, n.bug_2,
+               bug2_scale),  // e4 bug 2
+        more...);
+}
+
+// The bug knobs and the two preset buttons, then the gauge's own areas.
+template <class G, class... More>
+constexpr auto knobs(G g, More... more) {
+    using namespace def;
+    return g.mouse(repeat(0, 0, 25, 43, kCursorDown, bug_1_down_area),
+                   repeat(25, 0, 25, 43, kCursorUp, bug_1_up_area),
+                   repeat(156, 0, 25, 43, kCursorDown, bug_2_down_area),
+                   repeat(181, 0, 25, 43, kCursorUp, bug_2_up_area),
+                   click(0, 136, 70, 70, kCursorHand, preset_takeoff_area),
+                   click(136, 136, 70, 70, kCursorHand, preset_approach_area), more...);
+}
+
 }  // namespace kestrane::ias

@@ -268,7 +268,7 @@ bool Storm::fail(const char* fmt, ...) {
 // Fields that hold a host value as read while their instrument is off or out
 // of range: a non-finite value the host gave stays until it is read again.
 bool holds_host_value(const char* field) {
-    for (const char* f : {"hsi_cdi", "hsi_card", "fd_gs_vs_target"})
+    for (const char* f : {"hsi_cdi", "hsi_card", "fd_gs_vs_target", "door_fwd_value"})
         if (std::strcmp(field, f) == 0)
             return true;
     return false;

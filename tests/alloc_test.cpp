@@ -129,7 +129,7 @@ TEST(Allocations, NoneOverAStorm) {
     o.started = [] { before = g_allocations; };
     ASSERT_TRUE(storm::run_episode(host, o, r)) << r.failure;
     EXPECT_EQ(g_allocations - before, 0u) << "over " << r.cycles << " cycles and " << r.steps << " steps";
-    EXPECT_GT(r.mouse, 50);
+    EXPECT_GT(r.mouse, 20);  // the storm did click and hold
 }
 
 }  // namespace

@@ -229,9 +229,12 @@ public:
         return v;
     }
     // A whole number within [lo, hi].
+    // After an earlier fault on the line it is 0, so that callers may convert it.
     double whole(const char* what, double lo, double hi) {
         double v = number(what);
-        if (ok() && (v != std::trunc(v) || v < lo || v > hi)) {
+        if (!ok())
+            return 0;
+        if (v != std::trunc(v) || v < lo || v > hi) {
             fail(std::string("bad number '") + fmt(v) + "' for " + what + ": expected a whole number from " +
                  fmt(lo) + " to " + fmt(hi));
             return 0;

@@ -37,6 +37,10 @@ TEST(ScenarioBounds, CycleCountsLineLengthAndScriptSize) {
     EXPECT_EQ(e.line, 3);
     EXPECT_NE(e.message.find("line longer than 4096"), std::string::npos) << e.message;
 
+    // a number after an earlier fault on the line is not converted
+    e = parse_error(host, "click 888888888888888888888 \"testgauge2k\" 2 316\n");
+    EXPECT_EQ(e.line, 1);
+
     std::string big;
     while (big.size() <= kMaxScriptBytes)
         big += "# a comment line of a long script\n";

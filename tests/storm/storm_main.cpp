@@ -31,8 +31,9 @@ int main(int argc, char** argv) {
         else if (a == "--keep-going")
             keep_going = std::strcmp(argv[i + 1], "1") == 0;
         else {
-            std::fprintf(stderr, "usage: kestrane_storm [--seed S] [--cycles N] [--episode N] [--episodes N] "
-                                 "[--mode finite|hostile|both] [--keep-going 0|1]\n");
+            std::fprintf(stderr,
+                         "usage: kestrane_storm [--seed S] [--cycles N] [--episode N] [--episodes N] "
+                         "[--mode finite|hostile|both] [--keep-going 0|1]\n");
             return 2;
         }
     }
@@ -68,11 +69,11 @@ int main(int argc, char** argv) {
             break;
     }
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    std::printf("storm: seeds %llu..%llu, %ld cycles, %ld steps, %ld mouse actions, %ld host values, "
-                "%ld reinstalls, last episode saw %d tokens, %d named variables, %d expressions, %.1f s\n",
-                static_cast<unsigned long long>(seed), static_cast<unsigned long long>(seed + runs - 1),
-                total.cycles, total.steps, total.mouse, total.values, total.reinstalls, r.tokens, r.named,
-                r.expressions, seconds);
+    std::printf(
+        "storm: seeds %llu..%llu, %ld cycles, %ld steps, %ld mouse actions, %ld host values, "
+        "%ld reinstalls, last episode saw %d tokens, %d named variables, %d expressions, %.1f s\n",
+        static_cast<unsigned long long>(seed), static_cast<unsigned long long>(seed + runs - 1), total.cycles,
+        total.steps, total.mouse, total.values, total.reinstalls, r.tokens, r.named, r.expressions, seconds);
     std::printf("storm: %ld passed, %ld failed\n", runs - failed, failed);
     return failed == 0 ? 0 : 1;
 }

@@ -7,6 +7,8 @@
 #include <cstring>
 #include <limits>
 
+#include "host/model/aircraft.h"
+
 namespace kestrane::host {
 
 // ---------------------------------------------------------------- module
@@ -130,6 +132,8 @@ void Host::reset_tables() {
     events_.clear();
     time_base_ = 0.0;
     time_cycles_ = 0;
+    model_.reset();
+    trace_items_.clear();
 }
 
 bool Host::reload() {
@@ -271,6 +275,8 @@ void Host::run(int cycles) {
         ++time_cycles_;
         f64 now = time_base_ + static_cast<f64>(time_cycles_) / 18.0;
         store_token(kTokenSimTime, &now, sizeof now);
+        if (model_)
+            model_->step(*this);
         for (std::size_t i = 0; i < installed_.size(); ++i) {
             GaugeHeader* g = installed_[i];
             if (g->callback)
@@ -287,6 +293,8 @@ void Host::run(int cycles) {
         } else {
             sound_.advance(nullptr);
         }
+        if (trace_ && !trace_items_.empty() && time_cycles_ % 18 == 0)
+            trace_row();
     }
 }
 
@@ -304,7 +312,7 @@ u8 element_callbacks(const Element* e) {
     auto bit = [](auto cb, u8 b) { return cb != nullptr ? b : u8{0}; };
     switch (e->kind) {
         case kNeedle:
-            return bit(e->u.needle.callback, Drawn::kX);
+            return e->u.needle.callback != nullptr || e->u.needle.source.id != 0 ? u8{Drawn::kX} : u8{0};
         case kString:
             return bit(e->u.str.callback, Drawn::kText);
         case kSlider:
@@ -344,8 +352,12 @@ void Host::draw_item(Element* e, Drawn& d) {
         case kNeedle:
             if (e->u.needle.callback)
                 value(e->u.needle.callback, 0);
-            else if (e->u.needle.source.id)
+            else if (e->u.needle.source.id) {
+                // the host shows the token itself
                 svc_lookup_var(&e->u.needle.source);
+                d.value[0] = e->u.needle.source.value.n;
+                d.have |= Drawn::kX;
+            }
             break;
         case kString:
             if (e->u.str.callback) {
@@ -525,6 +537,8 @@ void Host::svc_lookup_var(ModuleVar* var) {
 
 void Host::svc_trigger_key_event(u32 event, u32 value) {
     events_.push_back({event, value});
+    if (model_)
+        model_->event(*this, event, value);
     if (event == kEventWindowToggle)
         window_set(value, !window_open(value));
     else if (event == kEventWindowOpen)

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <fstream>
 #include <map>
 #include <memory>
 #include <optional>
@@ -17,6 +18,17 @@
 #include "host/sound_device.h"
 
 namespace kestrane::host {
+
+namespace model {
+class Aircraft;
+}
+
+// One column of a trace: a state field, a token or a named variable.
+struct TraceItem {
+    enum Kind { Field, Token, Named } kind = Field;
+    std::string name;  // field or named variable
+    u32 id = 0;        // token
+};
 
 struct KeyEvent {
     u32 event;
@@ -90,6 +102,15 @@ public:
     void remove(GaugeHeader* g);
     bool installed(const GaugeHeader* g) const;
     const std::vector<GaugeHeader*>& installed_gauges() const { return installed_; }
+
+    // The host aircraft model: off at load; on, it answers every key event and
+    // moves the tokens once per cycle before the gauges run.
+    void set_aircraft(bool on);
+    bool aircraft() const { return model_ != nullptr; }
+
+    // Traces: one row per simulated second of the chosen items, as CSV.
+    bool trace_to(const std::string& path);
+    void trace_items(const std::vector<TraceItem>& items);
 
     // Update cycles: tokens 1 and 604 advance, then each installed gauge gets
     // service 6 and is drawn.
@@ -236,6 +257,10 @@ private:
     SoundDevice& sound_ = SoundDevice::instance();
     const SoundTable* sounds_ = nullptr;
     std::unique_ptr<Recorder> recorder_;
+    std::unique_ptr<model::Aircraft> model_;
+    std::unique_ptr<std::ofstream> trace_;
+    std::vector<TraceItem> trace_items_;
+    void trace_row();
     void tag_sounds();
     int sound_index(std::string_view name) const;
 };

@@ -14,7 +14,8 @@ using namespace kestrane;
 using namespace kestrane::host;
 
 int usage() {
-    std::cerr << "usage: kestrane-host [--module PATH] run [--record-audio FILE.wav] FILE|DIR...\n"
+    std::cerr << "usage: kestrane-host [--module PATH] run [--record-audio FILE.wav] [--trace FILE.csv] "
+                 "FILE|DIR...\n"
                  "       kestrane-host [--module PATH] gauges\n"
                  "       kestrane-host [--module PATH] fields\n"
                  "       kestrane-host [--module PATH] elements\n";
@@ -108,6 +109,13 @@ int main(int argc, char** argv) {
                 return 2;
             }
             first = 3;
+        }
+        if (args.size() >= first + 2 && args[first] == "--trace") {
+            if (!host.trace_to(args[first + 1])) {
+                std::cerr << "cannot write " << args[first + 1] << '\n';
+                return 2;
+            }
+            first += 2;
         }
         if (args.size() > first)
             return run_paths(std::vector<std::string>(args.begin() + first, args.end()), host, std::cout);

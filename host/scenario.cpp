@@ -99,7 +99,13 @@ void Runner::execute(const Command& c) {
             host_.remove(g);
             return;
         case CmdKind::AircraftOff:
+            host_.set_aircraft(false);
+            return;
         case CmdKind::AircraftDefault:
+            host_.set_aircraft(true);
+            return;
+        case CmdKind::Trace:
+            host_.trace_items(c.trace);
             return;
         case CmdKind::Token:
             host_.set_token(c.id, c.value);

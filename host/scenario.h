@@ -18,6 +18,7 @@ enum class CmdKind {
     Remove,
     AircraftOff,
     AircraftDefault,
+    Trace,
     Token,
     TokenBcd,
     Named,
@@ -58,8 +59,9 @@ struct Command {
     CmpOp op = CmpOp::Eq;
     SoundCheck sound = SoundCheck::Played;
     int x = 0, y = 0, n = 0;
-    int branch = 0;  // element N.K: K (0 for a chain element)
-    int axis = 0;    // expect value: 0 needle or x, 1 y, 2 rotation
+    int branch = 0;                // element N.K: K (0 for a chain element)
+    int axis = 0;                  // expect value: 0 needle or x, 1 y, 2 rotation
+    std::vector<TraceItem> trace;  // trace: the columns
 };
 
 // Bounds on what a script may ask: its size, one line, one run or hold.

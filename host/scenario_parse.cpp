@@ -347,7 +347,7 @@ void parse_drawn(Line& l, Command& c, const Host& host, bool text) {
             if (axis >= 0)
                 l.fail(what + ": its value has no axis, write expect value \"G\" N OP V");
             else if ((have & Drawn::kX) == 0)
-                l.fail(what + " without a value callback");
+                l.fail(what + " without a value callback or source token");
             axis = 0;
             break;
         case kSlider:
@@ -514,9 +514,28 @@ bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host, 
         if (l.keyword("off")) {
             c.kind = CmdKind::AircraftOff;
         } else if (l.keyword("default")) {
-            l.fail("'aircraft default' needs the host aircraft model, which this host does not have yet");
+            c.kind = CmdKind::AircraftDefault;
         } else {
             l.fail("expected 'off' or 'default' after 'aircraft'");
+        }
+    } else if (cmd == "trace") {
+        c.kind = CmdKind::Trace;
+        if (!l.more())
+            l.fail("expected fields, 'token N' or 'named \"NAME\"' to trace");
+        while (l.ok() && l.more()) {
+            TraceItem t;
+            if (l.keyword("token")) {
+                t.kind = TraceItem::Token;
+                t.id = static_cast<u32>(l.whole("a token number", 0, kU32Max));
+            } else if (l.keyword("named")) {
+                t.kind = TraceItem::Named;
+                t.name = l.quoted("a named-variable name");
+            } else {
+                t.name = l.word("a state field");
+                if (l.ok() && host.field(t.name) == nullptr)
+                    l.fail("unknown field '" + t.name + "'");
+            }
+            c.trace.push_back(std::move(t));
         }
     } else if (cmd == "token") {
         c.id = static_cast<u32>(l.whole("a token number", 0, kU32Max));

@@ -40,17 +40,17 @@ KESTRANE_GAUGE(apsurf_rud, gauge("kestrane apsurf_rud_jm47", 36, update<kRudder>
                                .help(0xAA37)
                                .elements(image(42912, 0x4001),  // e0 background
                                          needle(ap::art(16), 18, 30, 1, 24, 0x4003, surface_needle<kRudder>,
-                                                rudder_scale)))  // e1 rudder
+                                                rudder_scale, 0, 786)))  // e1 rudder
 
 KESTRANE_GAUGE(apsurf_ail, gauge("kestrane apsurf_ail_jm47", 36, update<kAileron>)
                                .help(0xAA37)
                                .elements(image(42928, 0x4001),  // e0 background
                                          needle(ap::art(17), 18, 30, 1, 24, 0x4003, surface_needle<kAileron>,
-                                                aileron_scale)))  // e1 aileron
+                                                aileron_scale, 0, 784)))  // e1 aileron
 
 KESTRANE_GAUGE(apsurf_elev,
                gauge("kestrane apsurf_elev_jm47", 36, update<kElevator>)
                    .help(0xAA37)
                    .elements(image(42944, 0x4001),  // e0 background
                              needle(ap::art(18), 18, 30, 1, 24, 0x4003, surface_needle<kElevator>,
-                                    elevator_scale)))  // e1 elevator
+                                    elevator_scale, 0, 782)))  // e1 elevator

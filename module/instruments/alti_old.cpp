@@ -74,8 +74,8 @@ KESTRANE_GAUGE(alti_old, gauge("kestrane alti_old_jm47", 192, update)
                                        digit<&hpa[1]>(44032, 85, 39),     // e7 hPa hundreds
                                        digit<&hpa[2]>(44032, 95, 39),     // e8 hPa tens
                                        digit<&hpa[3]>(44032, 105, 39),    // e9 hPa units
-                                       needle(44048, 94, 94, 4, 60, kNeedleFlags, hundreds,
-                                              hundreds_scale))  // e10 hundreds
+                                       needle(44048, 94, 94, 4, 60, kNeedleFlags, hundreds, hundreds_scale, 0,
+                                              74))  // e10 hundreds
                              .mouse(repeat(0, 148, 20, 22, kCursorDown, baro<-1, 739>),
                                     repeat(20, 148, 20, 22, kCursorUp, baro<1, 1053>),
                                     repeat(0, 170, 20, 22, kCursorDown, baro<-10, 749>),

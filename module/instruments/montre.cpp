@@ -65,9 +65,6 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
 f64 KCALL hour_value(Element*) {
     return hour_hand;
 }
-f64 KCALL minute_value(Element*) {
-    return host::read(minutes);
-}
 f64 KCALL chrono_seconds(Element*) {
     return static_cast<f64>(chrono.seconds);
 }
@@ -133,9 +130,10 @@ KESTRANE_GAUGE(
                   icon(44400, 207, 193, 0x40000003),  // e4 set mode on
                   sprite(44416, 12, 12, 0, 0, 0x4003, 116, 116, fixed, fixed, bezel_angle),  // e5 bezel
                   needle(44432, 128, 171, 2, 14, 0x4003, chrono_minutes,
-                         chrono_minute_scale),                                           // e6 chrono minutes
-                  needle(44448, 128, 128, 4, 50, 0x4003, hour_value, hour_scale),        // e7 hours
-                  needle(44464, 128, 128, 4, 80, 0x4003, minute_value, minute_scale),    // e8 minutes
+                         chrono_minute_scale),                                     // e6 chrono minutes
+                  needle(44448, 128, 128, 4, 50, 0x4003, hour_value, hour_scale),  // e7 hours
+                  needle(44464, 128, 128, 4, 80, 0x4003, nullptr, minute_scale, 0,
+                         4),  // e8 minutes, straight from the clock
                   needle(44480, 128, 128, 2, 80, 0x4003, chrono_seconds, second_scale))  // e9 chrono seconds
         .mouse(repeat(0, 49, 67, 138, kCursorDown, bezel_down), repeat(189, 49, 67, 138, kCursorUp, bezel_up),
                click(22, 199, 40, 75, kCursorHand, chrono_reset),

@@ -25,6 +25,7 @@ NeedlePoint scale[] = {{75, 158, -6000, 0}, {57, 152, -5000, 0}, {41, 139, -4000
                        {105, 158, 6000, 0}};
 }  // namespace
 
-KESTRANE_GAUGE(vsi, gauge("kestrane vsi_jm47", 181, update)
-                        .elements(image(42144, 0x4001),                                        // e0 dial
-                                  needle(44240, 90, 90, 4, 60, 0x4003, needle_value, scale)))  // e1 needle
+KESTRANE_GAUGE(vsi,
+               gauge("kestrane vsi_jm47", 181, update)
+                   .elements(image(42144, 0x4001),                                               // e0 dial
+                             needle(44240, 90, 90, 4, 60, 0x4003, needle_value, scale, 0, 65)))  // e1 needle

@@ -35,6 +35,6 @@ KESTRANE_GAUGE(commut_batt, gauge("kestrane commut_batt_jm47", 97, update)
                                           icon(art(53, 1), 17, 180, 0x40000003),  // e1 down: engine start
                                           icon(art(53, 2), 17, 125, 0x40000003),  // e2 centre
                                           icon(art(53, 3), 17, 40, 0x40000003))   // e3 up: coupled
-                                .mouse(click(28, 0, 69, 88, kCursorUp, to_coupled),
+                                .mouse(click(28, 0, 69, 88, kCursorHand, to_coupled),
                                        click(17, 125, 78, 88, kCursorHand, to_centre),
-                                       click(28, 251, 69, 88, kCursorDown, to_start)))
+                                       click(28, 251, 69, 88, kCursorHand, to_start)))

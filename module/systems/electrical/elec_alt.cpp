@@ -127,8 +127,8 @@ KESTRANE_GAUGE(elec_alt_rh,
                              icon(30064, 100, 170, 0x40000003),  // e7 light 1 (alternator), right
                              icon(30080, 39, 170, 0x40000003))   // e8 light 2 (line), left
                    .mouse(click(97, 21, 35, 41, kCursorHand, alt_upper<kRh>),
-                          click(97, 62, 35, 41, kCursorDown, alt_lower<kRh>),
+                          click(97, 62, 35, 41, kCursorHand, alt_lower<kRh>),
                           click(37, 21, 35, 41, kCursorHand, line_close<kRh>),
-                          click(37, 62, 35, 41, kCursorDown, line_open<kRh>),
+                          click(37, 62, 35, 41, kCursorHand, line_open<kRh>),
                           click(100, 170, 30, 30, kCursorHand, alt_light_press<kRh>),
                           click(39, 170, 30, 30, kCursorHand, line_light_press<kRh>)))

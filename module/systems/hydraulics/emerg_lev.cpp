@@ -133,11 +133,11 @@ KESTRANE_GAUGE(emerg_lev,
                   icon(46608, 116, 302, 0x40000003),  // e5 flap selector down
                   icon(46624, 116, 0, 0x40000003),    // e6 cover open
                   icon(46640, 116, 88, 0x40000003))   // e7 cover closed
-        .mouse(click(20, 103, 77, 125, kCursorUp, gear_stow),
-               click(20, 273, 77, 91, kCursorDown, gear_pull),
+        .mouse(click(20, 103, 77, 125, kCursorHand, gear_stow),
+               click(20, 273, 77, 91, kCursorHand, gear_pull),
                click(116, 0, 218, 68, kCursorHand, cover_flip),
                click(185, 220, 218, 68, kCursorHand, cover_flip),
                click(116, 220, 69, 68, kCursorHand, flaps_neutral),
-               click(116, 88, 69, 114, kCursorUp, flaps_up),
-               click(116, 302, 69, 62, kCursorDown, flaps_down)))
+               click(116, 88, 69, 114, kCursorHand, flaps_up),
+               click(116, 302, 69, 62, kCursorHand, flaps_down)))
 // clang-format on

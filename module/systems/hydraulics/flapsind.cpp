@@ -50,13 +50,14 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
 }
 }  // namespace
 
-KESTRANE_GAUGE(flapsind,
-               gauge("kestrane flapsind_jm47", 181, update)
-                   .elements(image(42864, 0x4001),                                             // e0
-                             needle(42865, 90, 90, 4, 40, 0x4003, right_needle, right_scale),  // e1 right
-                             needle(42866, 90, 90, 4, 40, 0x4003, left_needle, left_scale),    // e2 left
-                             icon(42867, 0, 0, 0x40000003),                                    // e3 night
-                             needle(42868, 90, 90, 4, 40, 0x40004003, right_needle,
-                                    right_scale_night),  // e4 right, night
-                             needle(42869, 90, 90, 4, 40, 0x40004003, left_needle,
-                                    left_scale_night)))  // e5 left, night
+KESTRANE_GAUGE(flapsind, gauge("kestrane flapsind_jm47", 181, update)
+                             .elements(image(42864, 0x4001),  // e0
+                                       needle(42865, 90, 90, 4, 40, 0x4003, right_needle, right_scale, 0,
+                                              908),  // e1 right
+                                       needle(42866, 90, 90, 4, 40, 0x4003, left_needle, left_scale, 0,
+                                              907),                    // e2 left
+                                       icon(42867, 0, 0, 0x40000003),  // e3 night
+                                       needle(42868, 90, 90, 4, 40, 0x40004003, right_needle,
+                                              right_scale_night, 0, 908),  // e4 right, night
+                                       needle(42869, 90, 90, 4, 40, 0x40004003, left_needle, left_scale_night,
+                                              0, 907)))  // e5 left, night

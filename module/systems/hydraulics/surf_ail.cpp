@@ -21,8 +21,8 @@ void KCALL update(GaugeHeader*, u32 service, std::uintptr_t) {
 }
 }  // namespace
 
-KESTRANE_GAUGE(surf_ail,
-               gauge("kestrane surf_ail_jm47", 121, update)
-                   .help(0xAA37)
-                   .elements(image(42240, 0x4001),                                                 // e0
-                             needle(42241, 60, 60, 4, 4, 0x4003, aileron_needle, aileron_scale)))  // e1
+KESTRANE_GAUGE(surf_ail, gauge("kestrane surf_ail_jm47", 121, update)
+                             .help(0xAA37)
+                             .elements(image(42240, 0x4001),  // e0
+                                       needle(42241, 60, 60, 4, 4, 0x4003, aileron_needle, aileron_scale, 0,
+                                              313)))  // e1

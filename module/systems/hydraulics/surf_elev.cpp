@@ -44,5 +44,5 @@ KESTRANE_GAUGE(surf_elev,
                    .help(0xAA37)
                    .elements(image(42224, 0x4001),                                           // e0
                              moving(42225, 20, 0, 0x4003, across, trim_mark, 0, 10, 0, 15),  // e1 trim
-                             needle(42226, 60, 60, 4, 4, 0x4003, elevator_needle,
-                                    elevator_scale)))  // e2 elevator
+                             needle(42226, 60, 60, 4, 4, 0x4003, elevator_needle, elevator_scale, 0,
+                                    317)))  // e2 elevator

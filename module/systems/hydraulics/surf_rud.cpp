@@ -24,5 +24,5 @@ void KCALL update(GaugeHeader*, u32 service, std::uintptr_t) {
 KESTRANE_GAUGE(surf_rud,
                gauge("kestrane surf_rud_jm47", 121, update)
                    .help(0xAA37)
-                   .elements(image(42256, 0x4001),                                               // e0
-                             needle(42257, 60, 60, 4, 4, 0x4003, rudder_needle, rudder_scale)))  // e1
+                   .elements(image(42256, 0x4001),                                                       // e0
+                             needle(42257, 60, 60, 4, 4, 0x4003, rudder_needle, rudder_scale, 0, 316)))  // e1

@@ -106,6 +106,7 @@ Host::Host(std::string module_path) : module_path_(std::move(module_path)) {
     windows_.reserve(256);
     named_.reserve(64);
     installed_.reserve(256);
+    draw_lists_.reserve(256);
     reload();
 }
 
@@ -119,6 +120,7 @@ Host::~Host() {
 
 void Host::reset_tables() {
     installed_.clear();
+    draw_lists_.clear();
     drawn_.clear();
     gauge_by_name_.clear();
     field_by_name_.clear();
@@ -195,7 +197,14 @@ void Host::install(GaugeHeader* g) {
     if (g == nullptr || installed(g))
         return;
     installed_.push_back(g);
-    for (Drawn& d : drawn_[g])
+    std::vector<Drawn>& slots = drawn_[g];  // nodes are stable: keep a pointer
+    DrawList list{&slots, {}};
+    std::uint32_t at = 0;
+    flatten(g->elements ? g->elements[0] : nullptr, 0, at, list.items);
+    if (slots.size() < at)
+        slots.resize(at);
+    draw_lists_.push_back(std::move(list));
+    for (Drawn& d : slots)
         d.have = 0;
     if (g->callback)
         g->callback(g, 2, reinterpret_cast<std::uintptr_t>(module_ ? module_->handle() : nullptr));
@@ -249,6 +258,7 @@ void Host::remove(GaugeHeader* g) {
         return;
     if (g->callback)
         g->callback(g, 12, 0);
+    draw_lists_.erase(draw_lists_.begin() + (it - installed_.begin()));
     installed_.erase(it);
 }
 
@@ -271,7 +281,11 @@ void Host::run(int cycles) {
             GaugeHeader* g = installed_[i];
             if (g->callback)
                 g->callback(g, 6, 0);
-            draw(g);
+            DrawList& list = draw_lists_[i];
+            std::vector<Drawn>& slots = *list.slots;
+            for (const DrawItem& item : list.items)
+                if ((item.e->flags & kHidden) == 0)
+                    draw_item(item.e, slots[item.slot]);
         }
         if (recorder_) {
             sound_.advance(&recorder_->cycle_buffer());
@@ -319,54 +333,78 @@ void Host::draw_element(Element* e, int depth, std::vector<Drawn>& slots, std::s
     if (slots.size() <= at)
         slots.resize(at + 1);
     Drawn& d = slots[at++];
+    if ((e->flags & kHidden) == 0)
+        draw_item(e, d);
+    if (e->children)
+        for (Element** c = e->children; *c != nullptr; ++c)
+            draw_element(*c, depth + 1, slots, at);
+}
+
+// One shown element: its value and string callbacks, as the simulator calls them.
+void Host::draw_item(Element* e, Drawn& d) {
     auto value = [&](ValueCallback cb, int i) {
         if (cb == nullptr)
             return;
         d.value[i] = cb(e);
         d.have |= static_cast<u8>(1u << i);
     };
-    if ((e->flags & kHidden) == 0) {
-        switch (e->kind) {
-            case kNeedle:
-                if (e->u.needle.callback) {
-                    value(e->u.needle.callback, 0);
-                } else if (e->u.needle.source.id) {
-                    // the host shows the token itself
-                    svc_lookup_var(&e->u.needle.source);
-                    d.value[0] = e->u.needle.source.value.n;
-                    d.have |= Drawn::kX;
-                }
-                break;
-            case kString:
-                if (e->u.str.callback) {
-                    e->u.str.callback(e);
-                    const char* t = e->u.str.text;
-                    const char* end =
-                        t ? static_cast<const char*>(std::memchr(t, 0, e->u.str.char_count + 1)) : t;
-                    d.text.assign(t ? t : "", t ? (end ? end : t + e->u.str.char_count + 1) - t : 0);
-                    d.have |= Drawn::kText;
-                }
-                break;
-            case kSlider:
-                value(e->u.slider.callback_x, 0);
-                value(e->u.slider.callback_y, 1);
-                break;
-            case kMovingImage:
-                value(e->u.moving.callback_x, 0);
-                value(e->u.moving.callback_y, 1);
-                break;
-            case kSprite:
-                value(e->u.sprite.callback_x, 0);
-                value(e->u.sprite.callback_y, 1);
-                value(e->u.sprite.callback_rot, 2);
-                break;
-            default:
-                break;
-        }
+    switch (e->kind) {
+        case kNeedle:
+            if (e->u.needle.callback)
+                value(e->u.needle.callback, 0);
+            else if (e->u.needle.source.id) {
+                // the host shows the token itself
+                svc_lookup_var(&e->u.needle.source);
+                d.value[0] = e->u.needle.source.value.n;
+                d.have |= Drawn::kX;
+            }
+            break;
+        case kString:
+            if (e->u.str.callback) {
+                e->u.str.callback(e);
+                const char* t = e->u.str.text;
+                const char* end =
+                    t ? static_cast<const char*>(std::memchr(t, 0, e->u.str.char_count + 1)) : t;
+                d.text.assign(t ? t : "", t ? (end ? end : t + e->u.str.char_count + 1) - t : 0);
+                d.have |= Drawn::kText;
+            }
+            break;
+        case kSlider:
+            value(e->u.slider.callback_x, 0);
+            value(e->u.slider.callback_y, 1);
+            break;
+        case kMovingImage:
+            value(e->u.moving.callback_x, 0);
+            value(e->u.moving.callback_y, 1);
+            break;
+        case kSprite:
+            value(e->u.sprite.callback_x, 0);
+            value(e->u.sprite.callback_y, 1);
+            value(e->u.sprite.callback_rot, 2);
+            break;
+        default:
+            break;
     }
+}
+
+namespace {
+// The elements of the tree under `e` that drawing does something for, with
+// their preorder positions (the drawing's slot numbers).
+template <class Item>
+void flatten_into(Element* e, int depth, std::uint32_t& at, std::vector<Item>& items) {
+    if (e == nullptr || depth > 256)
+        return;
+    const std::uint32_t slot = at++;
+    if (element_callbacks(e) != 0 || (e->kind == kNeedle && e->u.needle.source.id != 0))
+        items.push_back({e, slot});
     if (e->children)
         for (Element** c = e->children; *c != nullptr; ++c)
-            draw_element(*c, depth + 1, slots, at);
+            flatten_into(*c, depth + 1, at, items);
+}
+}  // namespace
+
+void Host::flatten(Element* e, int depth, std::uint32_t& at, std::vector<DrawItem>& items) {
+    flatten_into(e, depth, at, items);
 }
 
 namespace {
@@ -384,6 +422,11 @@ bool find_slot(const Element* e, const Element* target, int depth, std::size_t& 
     return false;
 }
 }  // namespace
+
+const std::vector<Drawn>* Host::drawn_slots(const GaugeHeader* g) const {
+    auto it = drawn_.find(g);
+    return it == drawn_.end() ? nullptr : &it->second;
+}
 
 const Drawn* Host::drawn(GaugeHeader* g, const Element* e) const {
     if (g == nullptr || g->elements == nullptr || e == nullptr)

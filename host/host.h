@@ -173,6 +173,9 @@ public:
     static Element* element(GaugeHeader* g, int n, int branch);
     // What `e` of `g` showed when g was last drawn (null: not drawn since install).
     const Drawn* drawn(GaugeHeader* g, const Element* e) const;
+    // Everything `g` showed when last drawn, in drawing order (each element,
+    // then its children in list order); null when not drawn since load.
+    const std::vector<Drawn>* drawn_slots(const GaugeHeader* g) const;
     static int chain_length(GaugeHeader* g);
     // Every element of `g` in drawing order with its label: "N" along the
     // chain, "N.K" for the K-th branch of eN (deeper branches add ".J").
@@ -223,6 +226,19 @@ private:
     HostServices services_{};
 
     std::vector<GaugeHeader*> installed_;
+    // What drawing an installed gauge does, flattened at install: the elements
+    // that have something to draw, each with its slot in the gauge's drawn_.
+    struct DrawItem {
+        Element* e;
+        std::uint32_t slot;
+    };
+    struct DrawList {
+        std::vector<Drawn>* slots;
+        std::vector<DrawItem> items;
+    };
+    std::vector<DrawList> draw_lists_;  // one per installed gauge, in install order
+    void draw_item(Element* e, Drawn& d);
+    static void flatten(Element* e, int depth, std::uint32_t& at, std::vector<DrawItem>& items);
     // Per gauge, the drawn values of its elements in drawing (preorder) order.
     std::unordered_map<const GaugeHeader*, std::vector<Drawn>> drawn_;
     std::unordered_map<std::string_view, int> gauge_by_name_;

@@ -1,11 +1,16 @@
 // kestrane-host: loads the gauge module and runs it headless.
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <fstream>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "host/host.h"
+#include "host/panel/gauge_size.h"
+#include "host/panel/panel_cfg.h"
 #include "host/scenario.h"
 
 namespace {
@@ -18,7 +23,8 @@ int usage() {
                  "FILE|DIR...\n"
                  "       kestrane-host [--module PATH] gauges\n"
                  "       kestrane-host [--module PATH] fields\n"
-                 "       kestrane-host [--module PATH] elements\n";
+                 "       kestrane-host [--module PATH] elements\n"
+                 "       kestrane-host [--module PATH] panel FILE\n";
     return 2;
 }
 
@@ -78,6 +84,42 @@ int list_fields(Host& host) {
     return 0;
 }
 
+// Reads a panel.cfg and lists its windows with the gauges each places.
+int list_panel(Host& host, const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        std::cerr << path << ": cannot read\n";
+        return 2;
+    }
+    std::ostringstream text;
+    text << in.rdbuf();
+    panel::Error error;
+    const auto p = panel::read(text.str(), panel::registry_sizes(host), error);
+    if (!p) {
+        std::cerr << path << ':' << error.line << ": " << error.message << '\n';
+        return 2;
+    }
+    std::vector<bool> placed(static_cast<std::size_t>(host.gauge_count()), false);
+    int total = 0;
+    for (const panel::Window& w : p->windows) {
+        std::cout << '[' << w.section << "] \"" << w.title << "\" ident " << (w.ident.empty() ? "-" : w.ident)
+                  << ' ' << w.width << 'x' << w.height << (w.visible ? " visible" : " hidden") << ", "
+                  << w.gauges.size() << " gauges\n";
+        for (const panel::Placed& g : w.gauges) {
+            std::cout << "  " << g.name << '\t' << g.x << ',' << g.y << ',' << g.w << ',' << g.h << '\n';
+            placed[static_cast<std::size_t>(host.gauge_index(g.name))] = true;
+            ++total;
+        }
+    }
+    std::cout << p->windows.size() << " windows, " << total << " gauges placed, "
+              << std::count(placed.begin(), placed.end(), true) << " of " << host.gauge_count()
+              << " gauges of the module\n";
+    for (int i = 0; i < host.gauge_count(); ++i)
+        if (!placed[static_cast<std::size_t>(i)])
+            std::cout << "not placed: " << host.gauge(i)->name << '\n';
+    return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -101,6 +143,8 @@ int main(int argc, char** argv) {
         return list_fields(host);
     if (cmd == "elements" && args.size() == 1)
         return list_elements(host);
+    if (cmd == "panel" && args.size() == 2)
+        return list_panel(host, args[1]);
     if (cmd == "run") {
         std::size_t first = 1;
         if (args.size() >= 3 && args[1] == "--record-audio") {

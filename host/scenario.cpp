@@ -344,11 +344,19 @@ int run_paths(const std::vector<std::string>& paths, Host& host, std::ostream& o
             bad = true;
             continue;
         }
-        std::stringstream text;
-        text << in.rdbuf();
+        // Read one byte past the limit at most: the parser reports an
+        // over-long script, and endless files (/dev/zero) end here.
+        std::string text(kMaxScriptBytes + 1, '\0');
+        in.read(text.data(), static_cast<std::streamsize>(text.size()));
+        text.resize(static_cast<std::size_t>(in.gcount()));
+        if (in.bad()) {
+            out << file << ":0: cannot read the script\n";
+            bad = true;
+            continue;
+        }
         Script script;
         ParseError error;
-        if (!parse_script(file, text.str(), host, script, error)) {
+        if (!parse_script(file, text, host, script, error)) {
             out << error.file << ":" << error.line << ": " << error.message << "\n";
             bad = true;
             continue;

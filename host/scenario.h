@@ -64,6 +64,11 @@ struct Command {
     std::vector<TraceItem> trace;  // trace: the columns
 };
 
+// Bounds on what a script may ask: its size, one line, one run or hold.
+inline constexpr std::size_t kMaxScriptBytes = 4u << 20;
+inline constexpr std::size_t kMaxLineBytes = 4096;
+inline constexpr int kMaxCycles = 1000000;
+
 struct Script {
     std::string file;
     std::vector<Command> commands;

@@ -229,9 +229,12 @@ public:
         return v;
     }
     // A whole number within [lo, hi].
+    // After an earlier fault on the line it is 0, so that callers may convert it.
     double whole(const char* what, double lo, double hi) {
         double v = number(what);
-        if (ok() && (v != std::trunc(v) || v < lo || v > hi)) {
+        if (!ok())
+            return 0;
+        if (v != std::trunc(v) || v < lo || v > hi) {
             fail(std::string("bad number '") + fmt(v) + "' for " + what + ": expected a whole number from " +
                  fmt(lo) + " to " + fmt(hi));
             return 0;
@@ -260,6 +263,9 @@ private:
 };
 
 constexpr double kU32Max = 4294967295.0;
+// One command runs at most about 15 simulated hours: a slip of the keyboard
+// must not hold a test run for hours of real time.
+constexpr double kCyclesMax = static_cast<double>(kMaxCycles);
 constexpr double kIntMax = 2147483647.0;
 
 const char* kind_name(u32 kind) {
@@ -560,7 +566,7 @@ bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host, 
         c.value = l.number("the value");
     } else if (cmd == "run") {
         c.kind = CmdKind::Run;
-        c.n = static_cast<int>(l.whole("a cycle count", 0, kIntMax));
+        c.n = static_cast<int>(l.whole("a cycle count", 0, kCyclesMax));
     } else if (cmd == "click" || cmd == "rclick" || cmd == "move" || cmd == "hold") {
         c.kind = cmd == "click"    ? CmdKind::Click
                  : cmd == "rclick" ? CmdKind::RClick
@@ -571,7 +577,7 @@ bool parse_line(const std::vector<Token>& tokens, Command& c, const Host& host, 
         c.x = static_cast<int>(l.whole("X", -kIntMax, kIntMax));
         c.y = static_cast<int>(l.whole("Y", -kIntMax, kIntMax));
         if (c.kind == CmdKind::Hold)
-            c.n = static_cast<int>(l.whole("a cycle count", 1, kIntMax));
+            c.n = static_cast<int>(l.whole("a cycle count", 1, kCyclesMax));
         if (l.ok()) {
             u32 flags = c.kind == CmdKind::RClick ? kMouseRight
                         : c.kind == CmdKind::Move ? kMouseMove
@@ -605,12 +611,21 @@ bool parse_script(const std::string& file, const std::string& text, const Host& 
                   ParseError& error) {
     script.file = file;
     script.commands.clear();
+    if (text.size() > kMaxScriptBytes) {
+        error = {file, 1 + static_cast<int>(std::count(text.begin(), text.begin() + kMaxScriptBytes, '\n')),
+                 "script longer than " + std::to_string(kMaxScriptBytes) + " bytes"};
+        return false;
+    }
     std::vector<int> installed;
     std::istringstream in(text);
     std::string raw;
     int line_no = 0;
     while (std::getline(in, raw)) {
         ++line_no;
+        if (raw.size() > kMaxLineBytes) {
+            error = {file, line_no, "line longer than " + std::to_string(kMaxLineBytes) + " characters"};
+            return false;
+        }
         std::vector<Token> tokens;
         std::string message;
         if (!tokenize(raw, tokens, message)) {

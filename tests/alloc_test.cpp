@@ -8,6 +8,7 @@
 #include <string>
 
 #include "host/scenario.h"
+#include "tests/storm/storm.h"
 
 extern "C" {
 void* __libc_malloc(std::size_t);
@@ -105,6 +106,30 @@ TEST(Allocations, NoneInScenarioStepsAndPassingChecks) {
             runner.execute(script.commands[i]);
     EXPECT_EQ(g_allocations - before, 0u);
     EXPECT_EQ(totals.failed, 0) << out.str();
+}
+
+// The storm's clicks, holds and hostile host values, after a first storm has
+// grown the host's own tables (names, drawn texts). Gauges stay installed:
+// starting the sound player makes the stand-in device allocate its buffers.
+TEST(Allocations, NoneOverAStorm) {
+    Host host;
+    ASSERT_TRUE(host.ok());
+    storm::Options o;
+    storm::Result r;
+    for (storm::Mode m : {storm::Mode::Finite, storm::Mode::Hostile}) {
+        o.seed = 7;
+        o.cycles = 4000;
+        o.mode = m;
+        o.reload = m == storm::Mode::Finite;
+        o.reinstall = false;
+        ASSERT_TRUE(storm::run_episode(host, o, r)) << r.failure;
+    }
+    static std::size_t before;
+    o.reload = false;
+    o.started = [] { before = g_allocations; };
+    ASSERT_TRUE(storm::run_episode(host, o, r)) << r.failure;
+    EXPECT_EQ(g_allocations - before, 0u) << "over " << r.cycles << " cycles and " << r.steps << " steps";
+    EXPECT_GT(r.mouse, 20);  // the storm did click and hold
 }
 
 }  // namespace

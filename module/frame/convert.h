@@ -1,5 +1,6 @@
 // Conversions from host doubles to whole numbers: truncate toward zero,
-// saturate at the type's range, NaN becomes 0.
+// saturate at the type's range, NaN becomes 0. Floating-point targets
+// saturate at their largest finite value.
 #pragma once
 
 #include <limits>
@@ -28,6 +29,12 @@ constexpr T trunc_to(f64 v) {
             return std::numeric_limits<T>::lowest();
         return static_cast<T>(v);
     }
+}
+
+// A host-derived quantity kept finite: NaN becomes 0, infinities the
+// largest finite value of their sign.
+constexpr f64 bounded(f64 v) {
+    return trunc_to<f64>(v);
 }
 
 }  // namespace kestrane

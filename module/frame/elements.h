@@ -6,13 +6,26 @@
 
 namespace kestrane {
 
+// What a declared gauge's `elements` points at: the host's one-entry list,
+// then the chain by number, filled when the gauge is linked, so that eN is
+// one look-up instead of a walk down N first children.
+struct ChainIndex {
+    Element* root[2];  // the background, then null
+    Element* const* chain;
+    int count;
+};
+
+inline const ChainIndex* chain_index(GaugeHeader* gauge) {
+    return reinterpret_cast<const ChainIndex*>(gauge->elements);
+}
+
 inline Element* element(GaugeHeader* gauge, int n) {
     if (gauge == nullptr || gauge->elements == nullptr)
         return nullptr;
-    Element* e = gauge->elements[0];
-    for (int i = 0; i < n && e != nullptr; ++i)
-        e = e->children ? e->children[0] : nullptr;
-    return e;
+    if (n <= 0)
+        return gauge->elements[0];
+    const ChainIndex* index = chain_index(gauge);
+    return n < index->count ? index->chain[n] : nullptr;
 }
 
 inline void show(GaugeHeader* gauge, int n, bool shown) {

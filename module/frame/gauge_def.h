@@ -16,6 +16,7 @@
 // run time and nothing is allocated.
 #pragma once
 
+#include "frame/elements.h"
 #include "frame/gauge_abi.h"
 
 namespace kestrane {
@@ -217,10 +218,12 @@ constexpr GaugeDecl<0, 0> gauge(const char* name, u32 width, GaugeCallback cb) {
     return g;
 }
 
-// The linked records of one gauge, as the host sees them.
+// The linked records of one gauge, as the host sees them; they begin with
+// the element index (frame/elements.h).
 template <int NE, int NM, int NS>
 struct GaugeParts {
-    Element* root[2];
+    ChainIndex head;
+    Element* chain[NE];  // chain elements by number
     Element elems[NE];
     Element* links[2 * NE];
     MouseRect mouse[NM + 4];
@@ -232,8 +235,9 @@ template <int NE, int NM, int NS>
 constexpr GaugeParts<NE, NM, NS> link(const GaugeDecl<NE, NM>& decl, GaugeHeader* header,
                                       GaugeParts<NE, NM, NS>* self) {
     GaugeParts<NE, NM, NS> p{};
-    p.root[0] = &self->elems[0];
-    p.root[1] = nullptr;
+    p.head.root[0] = &self->elems[0];
+    p.head.root[1] = nullptr;
+    p.head.chain = self->chain;
     int chain_next[NE];  // chain index -> element index of the next chain element
     int chain_of[NE];    // element index -> chain index, or -1 for branches
     int n_chain = 0;
@@ -250,6 +254,9 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeDecl<NE, NM>& decl, GaugeHeader
     }
     for (int c = 0; c + 1 < n_chain; ++c)
         chain_next[chain_elem[c]] = chain_elem[c + 1];
+    for (int c = 0; c < n_chain; ++c)
+        p.chain[c] = &self->elems[chain_elem[c]];
+    p.head.count = n_chain;
     int link_at = 0;
     int string_at = 0;
     for (int i = 0; i < NE; ++i) {
@@ -297,7 +304,7 @@ constexpr GaugeHeader make_header(const Decl& decl, Parts* parts) {
     GaugeHeader h{};
     h.version = 0x320;
     h.name = decl.name;
-    h.elements = parts->root;
+    h.elements = parts->head.root;
     h.query = header_query;
     h.install = header_install;
     h.initialize = header_initialize;

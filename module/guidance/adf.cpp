@@ -20,7 +20,8 @@ void KCALL update(GaugeHeader*, u32 service, std::uintptr_t) {
     const bool p1 = ac2 && ac.elec_dc_sec_bus == 1;
     const bool p2 = ac2 && ac.elec_dc_sec_gen_bus == 1;
     adf.needle[0] = needle_value(p1, p1 ? host::read(adf1_brg) : 0.0);
-    adf.needle[1] = needle_value(p2, p2 ? host::calc("(A:ADF Radial:2,radians)") * 180.0 / kPi : 0.0);
+    adf.needle[1] =
+        needle_value(p2, p2 ? bounded(host::calc("(A:ADF Radial:2,radians)") * 180.0 / kPi) : 0.0);
 }
 
 f64 KCALL card(Element*) {

@@ -79,6 +79,7 @@ void gs_target(f64 tick_now) {
             fdc.q1 = 0;
         }
     }
+    target = bounded(target);  // huge speeds saturate
 }
 
 // Glide-slope arming and capture; returns the glide-slope pitch command.
@@ -183,14 +184,14 @@ void computer_cycle(GaugeHeader* g) {
     gs_target(now);
 
     Commands c{};
-    const f64 theta = host::read(pitch);
+    const f64 theta = bounded(host::read(pitch));
     c.pitch_att = -4.0 * (theta + (ac.fd_go_around == 1 ? 10.0 : ac.fd_pitch_trim));
     const f64 vs_fpm = host::read(vert_speed) * 3.281 * 60.0 / 256.0;
     const f64 gs_cmd = -((ac.fd_gs_vs_target / kVsUnitsPerFpm - vs_fpm) / 50.0);
 
     // Heading select.
     const f64 hdg = host::read(heading);
-    const f64 phi = host::read(bank);
+    const f64 phi = bounded(host::read(bank));  // the sphere saturates, never holds inf
     f64 eh = wrap180(static_cast<f64>(ac.hsi_hdg_bug) - hdg);
     if (std::fabs(eh) <= 0.5)
         eh = 0.0;

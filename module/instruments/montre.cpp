@@ -56,7 +56,7 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
     f64 h = host::read(hours);
     if (h >= 12)
         h -= 12;
-    hour_hand = h + host::read(minutes) * 0.0166667;
+    hour_hand = bounded(h + host::read(minutes) * 0.0166667);
     chrono_cycle(chrono, host::read(sim_seconds));
     show(g, 3, set_mode == 0);
     show(g, 4, set_mode == 1);

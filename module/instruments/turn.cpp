@@ -39,7 +39,7 @@ f64 KCALL ball_x(Element*) {
 }
 f64 KCALL ball_y(Element*) {
     const f64 b = host::read(ball);
-    return b * b / 300.0;
+    return bounded(b * b / 300.0);
 }
 
 NeedlePoint scale[] = {

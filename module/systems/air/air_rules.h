@@ -16,9 +16,9 @@ inline void approach(f32& v, f64 target, f64 step, f64 band) {
     const f64 cur = static_cast<f64>(v);
     const f64 gap = target - cur;
     if (gap <= band + kSnapSlack && gap >= -band - kSnapSlack)
-        v = static_cast<f32>(target);
+        v = trunc_to<f32>(target);
     else
-        v = static_cast<f32>(gap > 0.0 ? cur + step : cur - step);
+        v = trunc_to<f32>(gap > 0.0 ? cur + step : cur - step);
 }
 
 // One side's bleed air reaching the packs: valve fully open, with air

@@ -91,15 +91,15 @@ void switch_cycle(GaugeHeader* g, Zone& z) {
 }
 
 void zone_cycle(Zone& z) {
-    z.set = static_cast<f32>(z.selector * 0.1 + z.selector * 0.1 + 16.0);
+    z.set = trunc_to<f32>(z.selector * 0.1 + z.selector * 0.1 + 16.0);
     if (z.mode_sw == kAuto) {
         air::approach(z.temp, z.set, 0.001, 0.1);
         air::approach(z.duct, (static_cast<f64>(z.set) - z.temp) + 35.0, 0.5, 1.0);
     } else if (z.latch == z.colder_cmd) {
-        z.temp = static_cast<f32>(static_cast<f64>(z.temp) - 0.0025);
+        z.temp = trunc_to<f32>(static_cast<f64>(z.temp) - 0.0025);
         air::approach(z.duct, 15.0, 0.5, 1.0);
     } else {
-        z.temp = static_cast<f32>(static_cast<f64>(z.temp) + 0.0025);
+        z.temp = trunc_to<f32>(static_cast<f64>(z.temp) + 0.0025);
         air::approach(z.duct, 55.0, 0.5, 1.0);
     }
 }

@@ -23,9 +23,9 @@ void approach(f32& v, f64 target, f64 step, f64 band) {
         return;  // no reading from the host: hold
     const f64 now = v;
     if (now >= target - band && now <= target + band)
-        v = static_cast<f32>(target);
+        v = trunc_to<f32>(target);
     else
-        v = static_cast<f32>(now < target ? now + step : now - step);
+        v = trunc_to<f32>(now < target ? now + step : now - step);
 }
 
 // Indicator push-buttons: on only from off and with the essential bus.

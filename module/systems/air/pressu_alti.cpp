@@ -13,11 +13,11 @@ u16 dp_needle = 0;  // psi x 1000
 constexpr f64 kFeetPerCycle = 0.001;  // of the cabin vertical speed
 
 void climb_cabin() {
-    ac.air_cabin_alt = static_cast<f32>(static_cast<f64>(ac.air_cabin_alt) + ac.air_cabin_vs * kFeetPerCycle);
+    ac.air_cabin_alt = trunc_to<f32>(static_cast<f64>(ac.air_cabin_alt) + ac.air_cabin_vs * kFeetPerCycle);
 }
 
 void update_cycle() {
-    aircraft_alt = static_cast<f32>(host::read(altitude));
+    aircraft_alt = trunc_to<f32>(host::read(altitude));
     host::read(baro_altitude);
     const f64 exit = host::read(main_exit);
     const f64 ground = host::read(on_ground);
@@ -26,7 +26,7 @@ void update_cycle() {
     if (air::bleed_supply() && ac.elec_ess_bus == 1 && exit == 0.0 && ground == 0.0) {
         ac.air_pressurized = 1;
         if (ac.air_press_mode == 0) {
-            if (ac.air_cabin_alt != static_cast<f32>(ac.air_cabin_alt_sel))
+            if (ac.air_cabin_alt != trunc_to<f32>(ac.air_cabin_alt_sel))
                 climb_cabin();
         } else if (ac.adc_vs != 0.0) {
             climb_cabin();
@@ -46,7 +46,7 @@ void update_cycle() {
     if (ac.elec_ess_bus == 1) {
         const f64 diff = alt - static_cast<f64>(ac.air_cabin_alt);
         const f64 k = alt <= 21000.0 ? 0.000381 : 0.000381 - (alt - 21000.0) * 6.95e-9;
-        ac.air_cabin_dp = static_cast<f32>(diff * k);
+        ac.air_cabin_dp = trunc_to<f32>(diff * k);
     } else {
         ac.air_cabin_dp = 0.0f;
     }

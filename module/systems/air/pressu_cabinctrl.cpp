@@ -53,14 +53,14 @@ u32 KCALL rate_up(PixPoint*, u32) {
 u32 KCALL baro_down(PixPoint*, u32) {
     const i32 h = hundredths(baro);
     if (h >= 2791)
-        baro = static_cast<f32>((h - 1) / 100.0);
+        baro = trunc_to<f32>((h - 1) / 100.0);
     baro_magnifier.request = 1;
     return 0;
 }
 u32 KCALL baro_up(PixPoint*, u32) {
     const i32 h = hundredths(baro);
     if (h < 3194)
-        baro = static_cast<f32>((h + 1) / 100.0);
+        baro = trunc_to<f32>((h + 1) / 100.0);
     baro_magnifier.request = 1;
     return 0;
 }
@@ -94,13 +94,13 @@ void update_cycle(GaugeHeader* g) {
     magnifier_cycle(g, 4, alt_magnifier, now);
     magnifier_cycle(g, 5, baro_magnifier, now);
 
-    baro_sprite = static_cast<f32>((static_cast<f64>(baro) - 29.9) * 20.0 * 4.25 - 2.0);
+    baro_sprite = trunc_to<f32>((static_cast<f64>(baro) - 29.9) * 20.0 * 4.25 - 2.0);
 
     const f64 sel = ac.air_cabin_alt_sel;
     const f64 angle = sel * 0.01 + sel * 0.01 + 210.0;
-    alt_angle = static_cast<f32>(angle);
+    alt_angle = trunc_to<f32>(angle);
     if (angle >= 170.0 && angle <= 390.0)
-        alt_sprite = static_cast<f32>((angle - 210.0) * 1.4372);
+        alt_sprite = trunc_to<f32>((angle - 210.0) * 1.4372);
 }
 
 void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {

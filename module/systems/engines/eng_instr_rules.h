@@ -3,6 +3,8 @@
 // and passes it in together with its shared fields and host variables.
 #pragma once
 
+#include <cmath>
+
 #include "frame/drum.h"
 #include "frame/gauge.h"
 
@@ -122,8 +124,9 @@ struct TankPair {
 };
 
 // percent x gallons x pounds per gallon x 0.453 / divisor: kg for 100, kg x 10 for 10.
+// Huge or missing tank figures saturate rather than reach the needle as inf or NaN.
 inline f64 tank_mass(f64 level, f64 capacity, f64 lb_per_gal, f64 divisor) {
-    return (level / 83886.08) * capacity * (lb_per_gal / 3.84) * 0.453 * 3.84 / divisor;
+    return bounded((level / 83886.08) * capacity * (lb_per_gal / 3.84) * 0.453 * 3.84 / divisor);
 }
 
 // Main quantity of a side: the larger tank, the second one on equal capacities.
@@ -145,7 +148,7 @@ inline void aux_quantity(f64& aux, TankPair& t, ModuleVar& weight, ModuleVar& th
     const f64 cap_b = host::read(t.capacity_b);
     if (cap_b <= 0.0) {
         if (host::read(third_capacity) > 0.0)
-            aux = (host::read(third_level) / 83886.08) * 100.0;
+            aux = bounded((host::read(third_level) / 83886.08) * 100.0);
         return;
     }
     const f64 lb = host::read(weight);
@@ -254,7 +257,10 @@ inline void fuel_used_cycle(FuelCounter& c, f64& used, u8 reset, f64 sim_time, M
             c.armed = 1;
         }
         if (c.armed == 1 && sim_time >= c.next_time) {
-            used += (host::read(flow) / 14400.0) * 1.3407037 * 0.453;
+            // a sample the host cannot give is skipped, not added for good
+            const f64 next = used + (host::read(flow) / 14400.0) * 1.3407037 * 0.453;
+            if (std::isfinite(next))
+                used = next;
             c.armed = 0;
         }
     }
@@ -292,13 +298,13 @@ inline NeedlePoint flow_scale[] = {{79, 161, 0, 0},     {65, 140, 500, 0},   {61
 
 // Fuel temperature, degrees C, from the engine's oil temperature (Rankine).
 inline f32 fuel_temperature(f64 rankine) {
-    return static_cast<f32>(((rankine - 491.67) * 0.55556) / 1.5);
+    return trunc_to<f32>(((rankine - 491.67) * 0.55556) / 1.5);
 }
 
 // Fuel temperature needle: on the essential bus; unpowered it drops to the stop.
 inline void fuel_temp_needle(f64& shown, f32 temperature) {
     if (ac.elec_ess_bus == 1) {
-        if (temperature - static_cast<f32>(shown) <= 20.0f)
+        if (temperature - trunc_to<f32>(shown) <= 20.0f)
             shown = temperature;
         else
             shown += 20.0;

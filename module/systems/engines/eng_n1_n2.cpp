@@ -28,7 +28,7 @@ f64 KCALL main_needle(Element*) {
 }
 template <const SpoolGauge& S>
 f64 KCALL units_needle(Element*) {
-    return S.spool.units;
+    return clamp_back(S.spool.units, 0.0, 10.0);
 }
 
 template <const SpoolGauge& S>

@@ -26,7 +26,7 @@ f64 KCALL main_needle(Element*) {
 }
 template <const EgtEngine& S>
 f64 KCALL hundreds_needle(Element*) {
-    return S.hundreds;
+    return clamp_back(S.hundreds, 0.0, 100.0);
 }
 
 template <const EgtEngine& S>

@@ -42,7 +42,7 @@ void toggle_to(u8 state) {
 }
 
 void green_cycle(f64 item) {
-    ac.flaps_handle_pos = host::read(flap_handle) * 5 / 16000;
+    ac.flaps_handle_pos = bounded(host::read(flap_handle) * 5 / 16000);
     if (item < 0.09 && hyd_toggle != 6)
         toggle_to(6);
     if (item > 0.7 && hyd_toggle != 0)

@@ -68,7 +68,7 @@ void sample_flaps(f64 now) {
         motion.moving = moved > 0.1 || moved < -0.1;
     }
     motion.deadline = trunc_to<u32>(now + 30);
-    motion.angle = static_cast<f32>(angle);
+    motion.angle = trunc_to<f32>(angle);
     motion.running = 1;
 }
 

@@ -4,6 +4,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstring>
 #include <fstream>
 #include <map>
@@ -20,6 +21,7 @@ using kestrane::host::Host;
 
 struct Size {
     int w, h;
+    std::string role, colour, params;
 };
 
 std::map<u32, Size> read_table() {
@@ -37,6 +39,12 @@ std::map<u32, Size> read_table() {
         f.ignore(1);
         std::getline(f, gauge, '\t');
         f >> s.w >> s.h;
+        f.ignore(1);
+        std::string caption;
+        std::getline(f, s.role, '\t');
+        std::getline(f, caption, '\t');
+        std::getline(f, s.colour, '\t');
+        std::getline(f, s.params, '\t');
         EXPECT_TRUE(table.emplace(id, s).second) << "bitmap " << id << " listed twice";
     }
     return table;
@@ -102,6 +110,80 @@ TEST_F(Bitmaps, EveryImageIsEmbeddedAsA24BitBmpOfItsSize) {
         const u32 row = (static_cast<u32>(table[id].w) * 3 + 3) & ~3u;
         EXPECT_EQ(embedded->sizes[i], 54 + row * static_cast<u32>(table[id].h));
     }
+}
+
+struct Pixel {
+    int b, g, r;
+    bool black() const { return b == 0 && g == 0 && r == 0; }
+};
+
+// (x, y) from the top left of a bottom-up 24-bit BMP.
+Pixel pixel(const u8* bmp, int x, int y) {
+    const int w = le32(bmp + 18), h = le32(bmp + 22);
+    const int row = (w * 3 + 3) & ~3;
+    const u8* p = bmp + 54 + (h - 1 - y) * row + 3 * x;
+    return {p[0], p[1], p[2]};
+}
+
+// What the host sees: black is transparent, so panels must not use it, and
+// needles, lamps and dials must show where their declarations put them.
+TEST_F(Bitmaps, ImagesShowTheirRoleWhereTheGaugesLookForIt) {
+    std::map<u32, Size> table = read_table();
+    int needles = 0, dials = 0, lamps = 0;
+    for (u32 i = 0; i < embedded->count; ++i) {
+        const Size& s = table[embedded->ids[i]];
+        const u8* d = embedded->data[i];
+        SCOPED_TRACE("bitmap " + std::to_string(embedded->ids[i]) + " " + s.role);
+        if (s.role == "panel" || s.role == "dial" || s.role == "panel-night") {
+            int holes = 0;
+            for (int y = 0; y < s.h; ++y)
+                for (int x = 0; x < s.w; ++x)
+                    holes += pixel(d, x, y).black();
+            EXPECT_EQ(holes, 0) << "a background shows the host's transparent colour";
+        }
+        if (s.role == "needle") {
+            int rx = 0, ry = 0;
+            ASSERT_EQ(std::sscanf(s.params.c_str(), "%d,%d", &rx, &ry), 2);
+            if (rx >= 0 && ry >= 0 && rx < s.w && ry < s.h) {
+                EXPECT_FALSE(pixel(d, rx, ry).black()) << "nothing drawn at the pivot";
+                EXPECT_FALSE(pixel(d, s.w - 3, ry).black()) << "the needle does not reach its tip";
+                ++needles;
+            }
+            EXPECT_TRUE(pixel(d, s.w - 1, 0).black() || ry == 0) << "a needle's corner is not transparent";
+        }
+        if (s.role == "lamp") {
+            const Pixel c = pixel(d, 2, 2);
+            const bool lit = c.r + c.g + c.b > 300;
+            if (s.colour == "red" && lit) {
+                EXPECT_TRUE(c.r > 200 && c.g < 80 && c.b < 80);
+            }
+            if (s.colour == "amber" && lit) {
+                EXPECT_TRUE(c.r > 200 && c.g > 120 && c.b < 60);
+            }
+            ++lamps;
+        }
+        if (s.role == "dial") {
+            // a graduation at every point of a needle's value table inside the face
+            std::istringstream scales(s.params);
+            std::string scale;
+            while (std::getline(scales, scale, ';')) {
+                std::istringstream points(scale.substr(scale.find(':') + 1));
+                int x = 0, y = 0;
+                double v = 0;
+                char comma = 0;
+                while (points >> x >> comma >> y >> comma >> v) {
+                    if (x < 2 || y < 2 || x >= s.w - 2 || y >= s.h - 2)
+                        continue;
+                    const Pixel p = pixel(d, x, y);
+                    EXPECT_GT(p.r + p.g + p.b, 300) << "no graduation at (" << x << "," << y << ") for " << v;
+                }
+            }
+            ++dials;
+        }
+    }
+    EXPECT_GT(needles, 50);
+    EXPECT_GT(dials, 40);
+    EXPECT_GT(lamps, 30);
 }
 
 }  // namespace

@@ -158,45 +158,59 @@ void draw_panel(cairo_t* cr, const Bitmap& b, bool night) {
 // the needle's value table with their values.
 void draw_dial(cairo_t* cr, const Bitmap& b) {
     bevel(cr, 0, 0, b.w, b.h, kPanel);
-    for (const std::string& scale : split(b.params, ';')) {
-        std::size_t colon = scale.find(':');
+    struct Mark {
+        double x, y;
+        std::string v;
+    };
+    struct Scale {
+        double cx, cy, r;
+        std::vector<Mark> marks;
+    };
+    std::vector<Scale> scales;
+    for (const std::string& text_scale : split(b.params, ';')) {
+        std::size_t colon = text_scale.find(':');
         if (colon == std::string::npos)
             continue;
-        std::vector<std::string> c = split(scale.substr(0, colon), ',');
-        double cx = std::atof(c[0].c_str()), cy = std::atof(c[1].c_str());
-        struct Mark {
-            double x, y;
-            std::string v;
-        };
-        std::vector<Mark> marks;
-        double r = 0;
-        for (const std::string& p : split(scale.substr(colon + 1), ' ')) {
+        std::vector<std::string> c = split(text_scale.substr(0, colon), ',');
+        Scale sc{std::atof(c[0].c_str()), std::atof(c[1].c_str()), 0, {}};
+        for (const std::string& p : split(text_scale.substr(colon + 1), ' ')) {
             std::vector<std::string> v = split(p, ',');
             if (v.size() != 3)
                 continue;
             Mark m{std::atof(v[0].c_str()), std::atof(v[1].c_str()), v[2]};
-            r = std::max(r, std::hypot(m.x - cx, m.y - cy));
-            marks.push_back(m);
+            sc.r = std::max(sc.r, std::hypot(m.x - sc.cx, m.y - sc.cy));
+            sc.marks.push_back(m);
         }
-        if (r < 6)
-            r = std::min(b.w, b.h) * 0.4;
+        if (sc.r < 6)
+            sc.r = std::min(b.w, b.h) * 0.4;
+        scales.push_back(sc);
+    }
+    // every face first, so that no face hides another scale's graduations
+    for (const Scale& sc : scales) {
         set(cr, {0.55, 0.56, 0.58});
-        cairo_arc(cr, cx, cy, r + 6, 0, 2 * M_PI);
+        cairo_arc(cr, sc.cx, sc.cy, sc.r + 6, 0, 2 * M_PI);
         cairo_fill(cr);
+    }
+    for (const Scale& sc : scales) {
         set(cr, kFace);
-        cairo_arc(cr, cx, cy, r + 4, 0, 2 * M_PI);
+        cairo_arc(cr, sc.cx, sc.cy, sc.r + 4, 0, 2 * M_PI);
         cairo_fill(cr);
+    }
+    for (const Scale& sc : scales) {
         set(cr, kEngrave);
         cairo_set_line_width(cr, 1.6);
-        for (const Mark& m : marks) {
-            double d = std::hypot(m.x - cx, m.y - cy);
-            if (d < 1)
+        for (const Mark& m : sc.marks) {
+            double d = std::hypot(m.x - sc.cx, m.y - sc.cy);
+            if (d < 1) {
+                cairo_arc(cr, m.x, m.y, 2, 0, 2 * M_PI);
+                cairo_fill(cr);
                 continue;
-            double ux = (m.x - cx) / d, uy = (m.y - cy) / d;
+            }
+            double ux = (m.x - sc.cx) / d, uy = (m.y - sc.cy) / d;
             cairo_move_to(cr, m.x + ux * 2, m.y + uy * 2);
             cairo_line_to(cr, m.x - ux * 5, m.y - uy * 5);
             cairo_stroke(cr);
-            text(cr, m.v, m.x - ux * 13, m.y - uy * 13, std::max(6.0, std::min(10.0, r / 5)), 28);
+            text(cr, m.v, m.x - ux * 13, m.y - uy * 13, std::max(6.0, std::min(10.0, sc.r / 5)), 28);
         }
     }
 }

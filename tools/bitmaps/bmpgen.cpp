@@ -5,6 +5,7 @@
 // stand on it, panels never use it.
 #include <cairo.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -229,7 +230,7 @@ void draw_needle(cairo_t* cr, const Bitmap& b) {
     cairo_close_path(cr);
     cairo_fill(cr);
     set(cr, {0.7, 0.7, 0.72});
-    cairo_arc(cr, rx, ry, std::max(2.0, std::min(rx, ry) - 0.5), 0, 2 * M_PI);
+    cairo_arc(cr, rx, ry, std::clamp(std::min(rx, ry) - 0.5, 2.0, 4.5), 0, 2 * M_PI);
     cairo_fill(cr);
 }
 

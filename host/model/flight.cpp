@@ -6,28 +6,15 @@
 
 #include "host/host.h"
 #include "host/model/aircraft.h"
+#include "host/model/angles.h"
 #include "host/model/tokens.h"
 
 namespace kestrane::host::model {
 
 namespace {
-constexpr double kPi = 3.14159265358979323846;
-constexpr double kDeg = kPi / 180.0;
 constexpr double kG = 19.07;  // 1 g in knots per second
 constexpr double kFieldFt = 0.0;
 
-double wrap180(double a) {
-    a = std::fmod(a, 360.0);
-    if (a > 180.0)
-        a -= 360.0;
-    if (a <= -180.0)
-        a += 360.0;
-    return a;
-}
-double wrap360(double a) {
-    a = std::fmod(a, 360.0);
-    return a < 0.0 ? a + 360.0 : a;
-}
 double toward(double now, double target, double rate) {
     const double d = rate * kCycle;
     return now < target ? std::min(target, now + d) : std::max(target, now - d);

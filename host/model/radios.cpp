@@ -5,6 +5,7 @@
 
 #include "host/host.h"
 #include "host/model/aircraft.h"
+#include "host/model/angles.h"
 #include "host/model/tokens.h"
 
 namespace kestrane::host::model {
@@ -20,20 +21,7 @@ const std::array<Station, 4> kStations = {{
 const std::array<Marker, 3> kMarkers = {{{4.5, 0.0, 0.35, 1.0}, {0.55, 0.0, 0.2, 2.0}, {0.1, 0.0, 0.1, 3.0}}};
 
 namespace {
-constexpr double kDeg = 3.14159265358979323846 / 180.0;
 
-double wrap180(double a) {
-    a = std::fmod(a, 360.0);
-    if (a > 180.0)
-        a -= 360.0;
-    if (a <= -180.0)
-        a += 360.0;
-    return a;
-}
-double wrap360(double a) {
-    a = std::fmod(a, 360.0);
-    return a < 0.0 ? a + 360.0 : a;
-}
 std::uint32_t read_bcd(const Host& h, std::uint32_t id) {
     std::uint8_t raw[8];
     h.read_token(id, raw);

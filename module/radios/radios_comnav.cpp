@@ -97,44 +97,28 @@ template <u32 Event>
 constexpr def::AreaDecl knob_down(i32 x) {
     return def::repeat(x, 42, 33, 27, kCursorDown, knob<Event>);
 }
+// The four panels differ in background, width, where the drums start and where
+// the two knobs stand.
+template <const Tuner& S, u32 LeftUp, u32 LeftDown, u32 RightUp, u32 RightDown>
+constexpr auto tuner_gauge(const char* name, u32 width, u32 background, i32 x, i32 left, i32 right) {
+    using namespace kestrane::def;
+    return gauge(name, width, update<S>)
+        .elements(image(background, 0x4001),  // e0
+                  drum<S, 0>(8704, x + 51),   // e1 kHz pair
+                  drum<S, 1>(8576, x + 39),   // e2 tenths of MHz
+                  drum<S, 2>(8576, x + 24),   // e3 MHz units
+                  drum<S, 3>(8576, x + 12),   // e4 MHz tens
+                  drum<S, 4>(8560, x))        // e5 leading 1
+        .mouse(knob_up<LeftUp>(left), knob_down<LeftDown>(left), knob_up<RightUp>(right),
+               knob_down<RightDown>(right));
+}
 }  // namespace
 
-KESTRANE_GAUGE(radios_com1, gauge("kestrane radios_com1_jm47", 96, update<kCom1>)
-                                .elements(image(8512, 0x4001),                    // e0
-                                          drum<kCom1, 0>(8704, 68),               // e1 kHz pair
-                                          drum<kCom1, 1>(8576, 56),               // e2 tenths of MHz
-                                          drum<kCom1, 2>(8576, 41),               // e3 MHz units
-                                          drum<kCom1, 3>(8576, 29),               // e4 MHz tens
-                                          drum<kCom1, 4>(8560, 17))               // e5 leading 1
-                                .mouse(knob_up<65637>(13), knob_down<65636>(13),  //
-                                       knob_up<65639>(47), knob_down<65638>(47)))
-
-KESTRANE_GAUGE(radios_com2, gauge("kestrane radios_com2_jm47", 96, update<kCom2>)
-                                .elements(image(8512, 0x4001),                    // e0
-                                          drum<kCom2, 0>(8704, 68),               // e1 kHz pair
-                                          drum<kCom2, 1>(8576, 56),               // e2 tenths of MHz
-                                          drum<kCom2, 2>(8576, 41),               // e3 MHz units
-                                          drum<kCom2, 3>(8576, 29),               // e4 MHz tens
-                                          drum<kCom2, 4>(8560, 17))               // e5 leading 1
-                                .mouse(knob_up<66437>(13), knob_down<66436>(13),  //
-                                       knob_up<66440>(47), knob_down<66438>(47)))
-
-KESTRANE_GAUGE(radios_nav1, gauge("kestrane radios_nav1_jm47", 96, update<kNav1>)
-                                .elements(image(8496, 0x4001),                    // e0
-                                          drum<kNav1, 0>(8704, 74),               // e1 kHz pair
-                                          drum<kNav1, 1>(8576, 62),               // e2 tenths of MHz
-                                          drum<kNav1, 2>(8576, 47),               // e3 MHz units
-                                          drum<kNav1, 3>(8576, 35),               // e4 MHz tens
-                                          drum<kNav1, 4>(8560, 23))               // e5 leading 1
-                                .mouse(knob_up<65641>(19), knob_down<65640>(19),  //
-                                       knob_up<65643>(53), knob_down<65642>(53)))
-
-KESTRANE_GAUGE(radios_nav2, gauge("kestrane radios_nav2_jm47", 79, update<kNav2>)
-                                .elements(image(8528, 0x4001),                    // e0
-                                          drum<kNav2, 0>(8704, 70),               // e1 kHz pair
-                                          drum<kNav2, 1>(8576, 58),               // e2 tenths of MHz
-                                          drum<kNav2, 2>(8576, 43),               // e3 MHz units
-                                          drum<kNav2, 3>(8576, 31),               // e4 MHz tens
-                                          drum<kNav2, 4>(8560, 19))               // e5 leading 1
-                                .mouse(knob_up<65645>(18), knob_down<65644>(18),  //
-                                       knob_up<65647>(49), knob_down<65646>(49)))
+KESTRANE_GAUGE(radios_com1, (tuner_gauge<kCom1, 65637, 65636, 65639, 65638>("kestrane radios_com1_jm47", 96,
+                                                                            8512, 17, 13, 47)))
+KESTRANE_GAUGE(radios_com2, (tuner_gauge<kCom2, 66437, 66436, 66440, 66438>("kestrane radios_com2_jm47", 96,
+                                                                            8512, 17, 13, 47)))
+KESTRANE_GAUGE(radios_nav1, (tuner_gauge<kNav1, 65641, 65640, 65643, 65642>("kestrane radios_nav1_jm47", 96,
+                                                                            8496, 23, 19, 53)))
+KESTRANE_GAUGE(radios_nav2, (tuner_gauge<kNav2, 65645, 65644, 65647, 65646>("kestrane radios_nav2_jm47", 79,
+                                                                            8528, 19, 18, 49)))

@@ -24,6 +24,7 @@ Module::Module(const std::string& path) {
     imports_ = static_cast<ModuleImports*>(dlsym(handle_, "ImportTable"));
     fields_ = static_cast<const FieldTable*>(dlsym(handle_, "KestraneFields"));
     sounds_ = static_cast<const SoundTable*>(dlsym(handle_, "KestraneSounds"));
+    bitmaps_ = static_cast<const BitmapTable*>(dlsym(handle_, "KestraneBitmaps"));
     if (linkage_ == nullptr || imports_ == nullptr) {
         error_ = "module " + path + " exports no Linkage or ImportTable";
         linkage_ = nullptr;
@@ -119,6 +120,7 @@ Host::~Host() {
 }
 
 void Host::reset_tables() {
+    held_ = {};
     installed_.clear();
     draw_lists_.clear();
     drawn_.clear();
@@ -466,18 +468,33 @@ bool Host::click(GaugeHeader* g, int x, int y, u32 flags) {
 }
 
 bool Host::hold(GaugeHeader* g, int x, int y, int cycles) {
+    if (!press(g, x, y))
+        return false;
+    for (int c = 0; c < cycles; ++c) {
+        if (c > 0)
+            repeat_held();
+        run(1);
+    }
+    release();
+    return true;
+}
+
+bool Host::press(GaugeHeader* g, int x, int y) {
+    held_ = {};
     MouseRect* r = hit(g, x, y, kMouseLeft);
     if (r == nullptr)
         return false;
     PixPoint p{x, y};
-    for (int c = 0; c < cycles; ++c) {
-        if (c == 0)
-            r->u.handler(&p, kMouseLeft);
-        else if (r->flags & kMouseRepeat)
-            r->u.handler(&p, kMouseRepeat);
-        run(1);
-    }
+    r->u.handler(&p, kMouseLeft);
+    held_ = {r, {x, y}};
     return true;
+}
+
+void Host::repeat_held() {
+    if (held_.row == nullptr || (held_.row->flags & kMouseRepeat) == 0)
+        return;
+    PixPoint p = held_.at;
+    held_.row->u.handler(&p, kMouseRepeat);
 }
 
 // ---------------------------------------------------------------- tokens

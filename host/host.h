@@ -63,6 +63,7 @@ public:
     ModuleImports* imports() const { return imports_; }
     const FieldTable* fields() const { return fields_; }
     const SoundTable* sounds() const { return sounds_; }
+    const BitmapTable* bitmaps() const { return bitmaps_; }
 
 private:
     void* handle_ = nullptr;
@@ -70,6 +71,7 @@ private:
     ModuleImports* imports_ = nullptr;
     const FieldTable* fields_ = nullptr;
     const SoundTable* sounds_ = nullptr;
+    const BitmapTable* bitmaps_ = nullptr;
     std::string error_;
 };
 
@@ -123,6 +125,13 @@ public:
     static MouseRect* hit(GaugeHeader* g, int x, int y, u32 event_flags);
     bool click(GaugeHeader* g, int x, int y, u32 flags = kMouseLeft);
     bool hold(GaugeHeader* g, int x, int y, int cycles);
+    // The left button held down in real time: press calls the row's handler
+    // with a left click; repeat_held, before each later cycle, calls it again
+    // with the repeat flag when the row has it; release lets go.
+    bool press(GaugeHeader* g, int x, int y);
+    void repeat_held();
+    void release() { held_ = {}; }
+    bool holding() const { return held_.row != nullptr; }
 
     // Tokens (8 bytes each).
     void set_token(u32 id, f64 value);
@@ -139,6 +148,9 @@ public:
 
     // Panel windows.
     bool window_open(u32 ident) const;
+    void set_window(u32 ident, bool open) { window_set(ident, open); }
+    // Open windows, in the order they were opened.
+    const std::vector<u32>& open_windows() const { return windows_; }
 
     // Key events sent since the last clear.
     const std::vector<KeyEvent>& events() const { return events_; }
@@ -166,6 +178,8 @@ public:
     std::optional<f64> field_value(std::string_view name) const;
     bool set_field(std::string_view name, f64 value);
     const FieldTable* field_table() const { return module_ ? module_->fields() : nullptr; }
+    // The module's bitmaps (null for a module without the table).
+    const BitmapTable* bitmap_table() const { return module_ ? module_->bitmaps() : nullptr; }
 
     // Elements by chain number (e0 background); branch k >= 1 is the k-th
     // entry of en's child list after the chain's continuation.
@@ -253,6 +267,10 @@ private:
     std::vector<std::pair<std::string, f64>> named_;
     std::map<std::string, f64, std::less<>> calc_;
     std::vector<u32> windows_;  // open panel windows
+    struct Held {
+        MouseRect* row = nullptr;
+        PixPoint at{};
+    } held_;
     std::vector<KeyEvent> events_;
     SoundDevice& sound_ = SoundDevice::instance();
     const SoundTable* sounds_ = nullptr;

@@ -8,6 +8,9 @@
 #include <string>
 #include <vector>
 
+#if KESTRANE_COCKPIT
+#include "host/cockpit/cockpit.h"
+#endif
 #include "host/host.h"
 #include "host/panel/gauge_size.h"
 #include "host/panel/panel_cfg.h"
@@ -24,7 +27,12 @@ int usage() {
                  "       kestrane-host [--module PATH] gauges\n"
                  "       kestrane-host [--module PATH] fields\n"
                  "       kestrane-host [--module PATH] elements\n"
-                 "       kestrane-host [--module PATH] panel FILE\n";
+                 "       kestrane-host [--module PATH] panel FILE\n"
+#if KESTRANE_COCKPIT
+                 "       kestrane-host [--module PATH] cockpit [--panel FILE] [--port N] [--listen ADDR] "
+                 "[--script FILE.scn]\n"
+#endif
+        ;
     return 2;
 }
 
@@ -145,6 +153,20 @@ int main(int argc, char** argv) {
         return list_elements(host);
     if (cmd == "panel" && args.size() == 2)
         return list_panel(host, args[1]);
+#if KESTRANE_COCKPIT
+    if (cmd == "cockpit") {
+        std::vector<const char*> rest;
+        for (std::size_t i = 1; i < args.size(); ++i)
+            rest.push_back(args[i].c_str());
+        cockpit::Options options;
+        std::string error;
+        if (!cockpit::parse_options(static_cast<int>(rest.size()), rest.data(), options, error)) {
+            std::cerr << error << '\n';
+            return usage();
+        }
+        return cockpit::serve(host, options, std::cout, std::cerr);
+    }
+#endif
     if (cmd == "run") {
         std::size_t first = 1;
         if (args.size() >= 3 && args[1] == "--record-audio") {

@@ -147,6 +147,25 @@ struct Reader {
             has_size = true;
             return true;
         }
+        if (k == "position") {
+            const auto n = number(value);
+            if (!n || *n < 0 || *n > 8)
+                return fail(line, "malformed position: 0 to 8 expected");
+            w.position = static_cast<int>(*n);
+            return true;
+        }
+        if (k == "background_color") {
+            const auto parts = split(value, ',');
+            if (parts.size() != 3)
+                return fail(line, "malformed background_color: red,green,blue expected");
+            for (int i = 0; i < 3; ++i) {
+                const auto n = number(parts[static_cast<std::size_t>(i)]);
+                if (!n || *n < 0 || *n > 255)
+                    return fail(line, "malformed background_color: 0 to 255 expected");
+                w.background[i] = static_cast<int>(*n);
+            }
+            return true;
+        }
         if (k == "visible") {
             if (value != "0" && value != "1")
                 return fail(line, "malformed visible: 0 or 1 expected");

@@ -34,7 +34,9 @@ struct Window {
     std::string ident;    // number or symbolic ident
     int width = 0, height = 0;
     bool visible = false;
-    int line = 0;  // line of the section header
+    int position = 0;               // screen anchor 0..8: top-left, top, top-right, ... bottom-right
+    int background[3] = {0, 0, 0};  // background_color
+    int line = 0;                   // line of the section header
     std::vector<Placed> gauges;
 };
 

@@ -1,6 +1,8 @@
 #include "host/cockpit/assets.h"
 
+#include <climits>
 #include <cmath>
+#include <cstdint>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -87,6 +89,20 @@ json gauge_json(GaugeHeader* g, panel::Size size) {
             {"mouse", std::move(mouse)}, {"tip", tip}};
 }
 
+// Width and height from a BMP file's header, or nothing.
+std::optional<panel::Size> bmp_size(const u8* data, u32 size) {
+    if (data == nullptr || size < 26 || data[0] != 'B' || data[1] != 'M')
+        return std::nullopt;
+    auto i32_at = [&](int at) {
+        return static_cast<std::int32_t>(static_cast<std::uint32_t>(data[at]) | data[at + 1] << 8 |
+                                         data[at + 2] << 16 | static_cast<std::uint32_t>(data[at + 3]) << 24);
+    };
+    const std::int32_t w = i32_at(18), h = i32_at(22);
+    if (w <= 0 || w > 65535 || h == INT32_MIN || h == 0 || h > 65535 || h < -65535)
+        return std::nullopt;
+    return panel::Size{w, h < 0 ? -h : h};
+}
+
 }  // namespace
 
 std::string wav_file(int channels, int rate, int bits, const unsigned char* data, std::size_t n) {
@@ -132,9 +148,12 @@ bool Assets::load_page(const std::string& page_dir, std::string& error) {
 void Assets::load_module(const Host& host, const panel::Panel& panel) {
     json bitmaps = json::array();
     // The bitmaps live in the module library for as long as it is loaded.
+    std::map<u32, panel::Size> sizes;
     const auto* table = host.bitmap_table();
     if (table != nullptr)
         for (u32 i = 0; i < table->count; ++i) {
+            if (auto s = bmp_size(table->data[i], table->sizes[i]))
+                sizes[table->ids[i]] = *s;
             by_path_["/bitmaps/" + std::to_string(table->ids[i]) + ".bmp"] = Asset{
                 "image/bmp", std::string(reinterpret_cast<const char*>(table->data[i]), table->sizes[i])};
             bitmaps.push_back(table->ids[i]);
@@ -162,8 +181,15 @@ void Assets::load_module(const Host& host, const panel::Panel& panel) {
             const int index = host.gauge_index(p.name);
             placed.push_back({{"g", index}, {"x", p.x}, {"y", p.y}, {"w", p.w}, {"h", p.h}});
             const std::string key = std::to_string(index);
-            if (!gauges.contains(key))
-                gauges[key] = gauge_json(host.gauge(index), size_of(p.name).value_or(panel::Size{p.w, p.h}));
+            if (gauges.contains(key))
+                continue;
+            // The simulator stretches a gauge's background bitmap, and all
+            // the gauge draws with it, over the place panel.cfg gives it.
+            GaugeHeader* g = host.gauge(index);
+            const Element* e0 = g->elements ? g->elements[0] : nullptr;
+            auto bg = e0 ? sizes.find(e0->bitmap) : sizes.end();
+            gauges[key] = gauge_json(g, bg != sizes.end() ? bg->second
+                                                          : size_of(p.name).value_or(panel::Size{p.w, p.h}));
         }
         windows.push_back({{"title", w.title.empty() ? w.section : w.title},
                            {"ident", w.ident},

@@ -135,7 +135,7 @@ describe('cockpit page', () => {
     await page.waitForFunction(() => cockpit.speed === 1);
   });
 
-  test('a screenshot of every window', async () => {
+  test('a picture of every window', async () => {
     fs.mkdirSync(shots, { recursive: true });
     const windows = await page.evaluate(() => cockpit.layout.windows.map((w) => [w.ident, w.title]));
     await page.click('#windows-button');
@@ -145,13 +145,17 @@ describe('cockpit page', () => {
       await h.waitOpen(page, ident);
       await h.loaded(page);
       await h.cycles(page, 3);
+      // the window's own canvas, without what lies over it
+      const png = await page.evaluate(
+        (id) => document.querySelector(`canvas[data-ident="${id}"]`).toDataURL('image/png').split(',')[1], ident);
       const file = path.join(shots, `${String(i).padStart(2, '0')}-${title.replace(/[^A-Za-z0-9]+/g, '-')}.png`);
-      await page.locator(`.window[data-ident="${ident}"] canvas`).screenshot({ path: file });
+      fs.writeFileSync(file, Buffer.from(png, 'base64'));
       assert.ok(fs.statSync(file).size > 1000);
       if (i > 0) await page.uncheck(box);
       await h.waitOpen(page, ident, i === 0);
     }
     await page.click('#windows-button');
+    await page.screenshot({ path: path.join(shots, 'page.png') });
     assert.deepEqual(page.errors, []);
   });
 });

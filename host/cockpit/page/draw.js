@@ -144,22 +144,26 @@ function drawElement(cx, bitmaps, el, st) {
       break;
     }
     case KIND.SPRITE: {
+      // A sprite turns about its bitmap's middle, which sits at the
+      // element's place (or its reference point for those placed at 0,0),
+      // offset by its x and y values along the turned axes.
       const img = bitmaps.get(el.b, keyed);
       if (!img) break;
+      const atOrigin = el.x === 0 && el.y === 0;
       cx.save();
-      cx.translate(el.x, el.y);
+      cx.translate(atOrigin ? el.rx : el.x, atOrigin ? el.ry : el.y);
       cx.rotate((num(v[2]) * Math.PI) / 180);
       cx.translate(num(v[0]), num(v[1]));
       cx.scale(el.sc[0] || 1, el.sc[1] || 1);
-      cx.drawImage(img, -el.tc[0], -el.tc[1]);
+      cx.drawImage(img, -img.width / 2, -img.height / 2);
       cx.restore();
       break;
     }
   }
 }
 
-// Draws a gauge placed at p = {x, y, w, h} of its window, scaled from its
-// default size, clipped to its place. Returns the bitmaps it drew.
+// Draws a gauge placed at p = {x, y, w, h} of its window, stretched from its
+// background bitmap over its place, clipped to it. Returns the bitmaps it drew.
 function drawGauge(cx, bitmaps, gauge, p, states) {
   const drawn = [];
   cx.save();

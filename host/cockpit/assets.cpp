@@ -188,8 +188,8 @@ void Assets::load_module(const Host& host, const panel::Panel& panel) {
             GaugeHeader* g = host.gauge(index);
             const Element* e0 = g->elements ? g->elements[0] : nullptr;
             auto bg = e0 ? sizes.find(e0->bitmap) : sizes.end();
-            gauges[key] = gauge_json(g, bg != sizes.end() ? bg->second
-                                                          : size_of(p.name).value_or(panel::Size{p.w, p.h}));
+            gauges[key] = gauge_json(
+                g, bg != sizes.end() ? bg->second : size_of(p.name).value_or(panel::Size{p.w, p.h}));
         }
         windows.push_back({{"title", w.title.empty() ? w.section : w.title},
                            {"ident", w.ident},

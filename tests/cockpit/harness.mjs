@@ -102,6 +102,14 @@ export async function coldStart(page) {
   await page.waitForFunction(() => cockpit.open.join() === 'MAIN_PANEL,10100');
 }
 
+// Chooses a ready-to-fly start and waits for the sequence to close every
+// window again.
+export async function readyStart(page) {
+  await waitOpen(page, '10520');
+  await click(page, '10520', 'kestrane panload', 400, 120);
+  await page.waitForFunction(() => cockpit.open.join() === 'MAIN_PANEL', null, { timeout: 60000 });
+}
+
 // Where gauge `name` sits on window `ident`.
 export const placement = (page, ident, name) =>
   page.evaluate(([ident, name]) => {

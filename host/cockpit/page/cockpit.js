@@ -15,6 +15,7 @@ const cockpit = (window.cockpit = {
   speed: 1,
   frames: 0, // window redraws
   messages: 0,
+  bytes: 0, // received over the WebSocket
   fps: 0,
   drawn: {}, // gauge index -> the bitmaps drawn last, in order
   soundLog: [], // {n, op, loop, v, cycle}
@@ -468,7 +469,10 @@ function showSounds() {
 function connect() {
   socket = new WebSocket(`ws://${location.host}/ws`);
   socket.onopen = () => ($('link').textContent = 'connected');
-  socket.onmessage = (m) => apply(JSON.parse(m.data));
+  socket.onmessage = (m) => {
+    cockpit.bytes += m.data.length;
+    apply(JSON.parse(m.data));
+  };
   socket.onclose = () => {
     $('link').textContent = 'disconnected';
     setTimeout(connect, 1000);

@@ -261,6 +261,8 @@ bool parse_options(int argc, const char* const* argv, Options& o, std::string& e
 }
 
 int serve(Host& host, const Options& o, std::ostream& out, std::ostream& err) {
+    std::signal(SIGINT, on_signal);
+    std::signal(SIGTERM, on_signal);
     bool aircraft_chosen = false;
     if (!o.script.empty() && !run_setup(host, o.script, err, aircraft_chosen))
         return 2;
@@ -311,8 +313,6 @@ int serve(Host& host, const Options& o, std::ostream& out, std::ostream& err) {
         err << error << '\n';
         return 2;
     }
-    std::signal(SIGINT, on_signal);
-    std::signal(SIGTERM, on_signal);
     out << "cockpit at http://" << (o.listen == "0.0.0.0" ? "127.0.0.1" : o.listen) << ':' << server.port()
         << "/" << std::endl;
     sim.run(server, o.seconds);

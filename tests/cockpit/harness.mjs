@@ -21,7 +21,13 @@ export async function startHost(args = []) {
     });
     child.on('exit', (code) => reject(new Error(`kestrane-host exited with ${code}`)));
   });
-  return { child, url, stop: () => child.kill('SIGTERM') };
+  const exited = new Promise((resolve) => child.on('exit', (code, signal) => resolve(signal ? 128 : code)));
+  // stops the host; resolves to its exit status (0 when it shut down cleanly)
+  const stop = () => {
+    child.kill('SIGTERM');
+    return exited;
+  };
+  return { child, url, stop };
 }
 
 export async function startBrowser() {

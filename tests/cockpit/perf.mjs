@@ -45,5 +45,5 @@ try {
     `${((page1[3] - page0[3]) / wall / 1024).toFixed(1)} KiB a second`);
 } finally {
   await browser.close();
-  host.stop();
+  await host.stop();
 }

@@ -21,5 +21,5 @@ try {
   await page.screenshot({ path: path.join(h.root, 'docs/cockpit.png') });
 } finally {
   await browser.close();
-  host.stop();
+  await host.stop();
 }

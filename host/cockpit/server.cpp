@@ -3,6 +3,7 @@
 #include <civetweb.h>
 
 #include <cstring>
+#include <string>
 #include <vector>
 
 namespace kestrane::host::cockpit {
@@ -83,8 +84,14 @@ int Server::on_http(mg_connection* c, void* self) {
     return 200;
 }
 
-int Server::on_ws_connect(const mg_connection*, void* self) {
+int Server::on_ws_connect(const mg_connection* c, void* self) {
     auto* s = static_cast<Server*>(self);
+    // Only the cockpit's own page may work the cockpit: a page of another
+    // site in the same browser says where it comes from.
+    const char* origin = mg_get_header(c, "Origin");
+    const char* host = mg_get_header(c, "Host");
+    if (origin != nullptr && (host == nullptr || std::string(origin) != std::string("http://") + host))
+        return 1;
     std::lock_guard lock(s->mutex_);
     return s->pages_.size() < kMaxPages ? 0 : 1;  // 0 accepts
 }

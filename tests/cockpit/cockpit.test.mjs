@@ -1,6 +1,7 @@
 // The cockpit page in headless Chromium against a real kestrane-host.
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
+import http from 'node:http';
 import path from 'node:path';
 import { after, before, describe, test } from 'node:test';
 
@@ -172,6 +173,22 @@ describe('server', () => {
       '/sounds/click.wav', '/CMakeLists.txt'])
       assert.equal((await get(bad)).status, 404, bad);
     assert.equal((await get('/?a=1')).status, 400);
+    // the WebSocket only for the cockpit's own page
+    const upgrade = (origin) =>
+      new Promise((resolve) => {
+        const req = http.get(host.url + 'ws', {
+          headers: { Connection: 'Upgrade', Upgrade: 'websocket', 'Sec-WebSocket-Version': '13',
+            'Sec-WebSocket-Key': 'dGhlIHNhbXBsZSBub25jZQ==', Origin: origin },
+        });
+        req.on('upgrade', (res, socket) => {
+          socket.destroy();
+          resolve(101);
+        });
+        req.on('response', (res) => resolve(res.statusCode));
+        req.on('error', () => resolve('refused'));
+      });
+    assert.equal(await upgrade(new URL(host.url).origin), 101);
+    assert.notEqual(await upgrade('http://elsewhere.example'), 101);
     assert.equal((await get('/', { method: 'POST', body: 'x' })).status, 405);
   });
 

@@ -90,19 +90,6 @@ json gauge_json(GaugeHeader* g, panel::Size size) {
 }
 
 // Width and height from a BMP file's header, or nothing.
-std::optional<panel::Size> bmp_size(const u8* data, u32 size) {
-    if (data == nullptr || size < 26 || data[0] != 'B' || data[1] != 'M')
-        return std::nullopt;
-    auto i32_at = [&](int at) {
-        return static_cast<std::int32_t>(static_cast<std::uint32_t>(data[at]) | data[at + 1] << 8 |
-                                         data[at + 2] << 16 | static_cast<std::uint32_t>(data[at + 3]) << 24);
-    };
-    const std::int32_t w = i32_at(18), h = i32_at(22);
-    if (w <= 0 || w > 65535 || h == INT32_MIN || h == 0 || h > 65535 || h < -65535)
-        return std::nullopt;
-    return panel::Size{w, h < 0 ? -h : h};
-}
-
 }  // namespace
 
 std::string wav_file(int channels, int rate, int bits, const unsigned char* data, std::size_t n) {
@@ -152,7 +139,7 @@ void Assets::load_module(const Host& host, const panel::Panel& panel) {
     const auto* table = host.bitmap_table();
     if (table != nullptr)
         for (u32 i = 0; i < table->count; ++i) {
-            if (auto s = bmp_size(table->data[i], table->sizes[i]))
+            if (auto s = panel::bmp_size(table->data[i], table->sizes[i]))
                 sizes[table->ids[i]] = *s;
             by_path_["/bitmaps/" + std::to_string(table->ids[i]) + ".bmp"] = Asset{
                 "image/bmp", std::string(reinterpret_cast<const char*>(table->data[i]), table->sizes[i])};

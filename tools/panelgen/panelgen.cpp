@@ -139,7 +139,7 @@ int main(int argc, char** argv) {
                 return 1;
             }
             ++uses[static_cast<std::size_t>(index)];
-            const panel::Size size = panel::default_size(host.gauge(index));
+            const panel::Size size = panel::default_size(host.gauge(index), host.bitmap_table());
             if (x > 0 && x + size.w > w.width)
                 x = 0, y += row_h + kGap, row_h = 0;
             gauges << "gauge" << two_digits(static_cast<std::size_t>(n++)) << '=' << panel::kModuleFile << '!'

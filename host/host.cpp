@@ -126,6 +126,7 @@ void Host::reset_tables() {
     tokens_.assign(kDirectTokens, std::array<u8, 8>{});
     far_tokens_.clear();
     named_.clear();
+    named_hits_ = {};
     calc_.clear();
     windows_.clear();
     events_.clear();

@@ -251,6 +251,13 @@ private:
     std::vector<std::array<u8, 8>> tokens_;                  // ids below kDirectTokens
     std::unordered_map<u32, std::array<u8, 8>> far_tokens_;  // the rest
     std::vector<std::pair<std::string, f64>> named_;
+    // The module registers its names every cycle, nearly always from the
+    // same string literals: the id last found for a pointer, checked by text.
+    struct NamedHit {
+        const char* name = nullptr;
+        u32 id = 0;
+    };
+    std::array<NamedHit, 64> named_hits_{};
     std::map<std::string, f64, std::less<>> calc_;
     std::vector<u32> windows_;  // open panel windows
     std::vector<KeyEvent> events_;

@@ -12,11 +12,16 @@ namespace kestrane::host {
 // ---------------------------------------------------------------- named variables, calculator
 
 u32 Host::svc_register_named(const char* name) {
-    for (std::size_t i = 0; i < named_.size(); ++i)
-        if (named_[i].first == name)
-            return static_cast<u32>(i);
-    named_.emplace_back(name, 0.0);
-    return static_cast<u32>(named_.size() - 1);
+    NamedHit& hit = named_hits_[(reinterpret_cast<std::uintptr_t>(name) >> 3) % named_hits_.size()];
+    if (hit.name == name && hit.id < named_.size() && std::strcmp(named_[hit.id].first.c_str(), name) == 0)
+        return hit.id;
+    u32 id = 0;
+    while (id < named_.size() && named_[id].first != name)
+        ++id;
+    if (id == named_.size())
+        named_.emplace_back(name, 0.0);
+    hit = {name, id};
+    return id;
 }
 
 f64 Host::svc_get_named(u32 id) const {

@@ -3,13 +3,13 @@
 // failure, a fire scenario and presets; selections take effect when validated.
 // The callback runs the armed failures against the simulation clock.
 #include <cstddef>
-#include <cstdio>
 
 #if defined(_WIN32)
 #include <windows.h>
 #endif
 
 #include "alerts/failures.h"
+#include "frame/format.h"
 #include "frame/gauge.h"
 
 namespace {
@@ -124,7 +124,7 @@ void format_field(char* out, std::size_t size, int value) {
     (void)size;
     wsprintfA(out, "%3d", value);
 #else
-    std::snprintf(out, size, "%3d", value);
+    format_int(out, size, value, 3);
 #endif
 }
 

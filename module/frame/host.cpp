@@ -2,18 +2,6 @@
 
 namespace kestrane::host {
 
-const HostServices* services() {
-    return static_cast<const HostServices*>(ImportTable.entries[0].ptr);
-}
-
-f64 read(ModuleVar& var) {
-    const HostServices* s = services();
-    if (s == nullptr || s->lookup_var == nullptr)
-        return 0.0;
-    s->lookup_var(&var);
-    return var.value.n;
-}
-
 u32 read_bcd(ModuleVar& var) {
     const HostServices* s = services();
     if (s == nullptr || s->lookup_var == nullptr)

@@ -1,7 +1,6 @@
 // Diagnostic gauge: four text lines showing host tokens, or, with the
 // diagnostic flag set by a click, three values of the aircraft state.
-#include <cstdio>
-
+#include "frame/format.h"
 #include "frame/gauge_def.h"
 #include "frame/host.h"
 #include "frame/state.h"
@@ -14,7 +13,7 @@ u8 diagnostic = 0;
 f64 put(Element* e, f64 value) {
     StringData& s = e->u.str;
     if (s.text != nullptr)
-        std::snprintf(s.text, s.char_count + 1, "%1.6f", value);
+        format_fixed6(s.text, s.char_count + 1u, value);
     return value;
 }
 

@@ -90,7 +90,8 @@ void check_buffer(HMODULE module, const SoundTable* sounds, u32 i) {
     DWORD written = 0;
     const bool format_ok = SUCCEEDED(b->GetFormat(&got, sizeof got, &written)) &&
                            got.wFormatTag == want.wFormatTag && got.nChannels == want.nChannels &&
-                           got.nSamplesPerSec == want.nSamplesPerSec && got.wBitsPerSample == want.wBitsPerSample;
+                           got.nSamplesPerSec == want.nSamplesPerSec &&
+                           got.wBitsPerSample == want.wBitsPerSample;
     LONG volume = 1;
     const bool volume_ok = SUCCEEDED(b->GetVolume(&volume)) && volume == sounds->volumes[i];
     void* p1 = nullptr;
@@ -102,9 +103,10 @@ void check_buffer(HMODULE module, const SoundTable* sounds, u32 i) {
         b->Unlock(p1, n1, p2, n2);
     }
     char text[160];
-    std::snprintf(text, sizeof text, "%s created: %u Hz, %u channel(s), %u bits, volume %ld, %u bytes", name.c_str(),
-                  static_cast<unsigned>(got.nSamplesPerSec), static_cast<unsigned>(got.nChannels),
-                  static_cast<unsigned>(got.wBitsPerSample), static_cast<long>(volume), static_cast<unsigned>(n1));
+    std::snprintf(text, sizeof text, "%s created: %u Hz, %u channel(s), %u bits, volume %ld, %u bytes",
+                  name.c_str(), static_cast<unsigned>(got.nSamplesPerSec),
+                  static_cast<unsigned>(got.nChannels), static_cast<unsigned>(got.wBitsPerSample),
+                  static_cast<long>(volume), static_cast<unsigned>(n1));
     check(format_ok && volume_ok && data_ok, std::string(text) + (format_ok ? "" : " [format differs]") +
                                                  (volume_ok ? "" : " [volume differs]") +
                                                  (data_ok ? "" : " [data differs]"));
@@ -162,7 +164,8 @@ int main(int argc, char** argv) {
     // A device of our own keeps the system's device alive after the module
     // lets go of it, so that its buffers can be counted after removal.
     IDirectSound8* own = nullptr;
-    check(SUCCEEDED(DirectSoundCreate8(nullptr, &own, nullptr)) && own != nullptr, "system DirectSound device");
+    check(SUCCEEDED(DirectSoundCreate8(nullptr, &own, nullptr)) && own != nullptr,
+          "system DirectSound device");
 
     GaugeHeader* toggle = find_gauge(linkage, "kestrane toggle_pan_tadg");
     GaugeHeader* trim = find_gauge(linkage, "kestrane fdtrim_jm47");
@@ -219,8 +222,9 @@ int main(int argc, char** argv) {
     check(table_cleared == static_cast<int>(count), "removal forgets every buffer (" +
                                                         std::to_string(table_cleared) + " of " +
                                                         std::to_string(count) + ")");
-    check(released == static_cast<int>(count),
-          "removal releases every buffer once (" + std::to_string(released) + " of " + std::to_string(count) + ")");
+    check(released == static_cast<int>(count), "removal releases every buffer once (" +
+                                                   std::to_string(released) + " of " + std::to_string(count) +
+                                                   ")");
     if (own != nullptr)
         own->Release();
 

@@ -8,7 +8,6 @@
 #include <set>
 #include <string>
 
-#include "frame/convert.h"
 #include "host/host.h"
 
 namespace {
@@ -103,34 +102,6 @@ TEST_F(Frame, ElementsBelongToTheirGaugeAndChainsEnd) {
             }
         }
     }
-}
-
-TEST_F(Frame, DiagnosticGaugeDeclaration) {
-    GaugeHeader* g = host.gauge("testgauge2k");
-    ASSERT_NE(g, nullptr);
-    EXPECT_EQ(g->mouse[0].help_id, 0xAA1Au);
-    Element* e0 = Host::element(g, 0);
-    EXPECT_EQ(e0->bitmap, 1u);
-    EXPECT_EQ(e0->flags, 0x1u);
-    Element* e1 = Host::element(g, 1);
-    EXPECT_EQ(e1->kind, kIcon);
-    EXPECT_EQ(e1->bitmap, 16u);
-    EXPECT_EQ(e1->flags, 0x40000006u);
-    EXPECT_EQ(Host::chain_length(g), 2);
-    // four string branches of the background, after e1 in its child list
-    const u32 tokens[] = {905, 883, 884, 13};
-    ASSERT_NE(e0->children, nullptr);
-    EXPECT_EQ(e0->children[0], e1);
-    for (int k = 0; k < 4; ++k) {
-        Element* s = e0->children[k + 1];
-        ASSERT_NE(s, nullptr);
-        EXPECT_EQ(s->kind, kString);
-        EXPECT_EQ(s->y, 36 * (k + 1));
-        EXPECT_EQ(s->u.str.source.id, tokens[k]);
-    }
-    EXPECT_EQ(e0->children[5], nullptr);
-    EXPECT_EQ(Host::child_rows(g), 1);
-    EXPECT_EQ(g->mouse[1].cursor, kCursorHand);
 }
 
 const char* text_of(GaugeHeader* g, int k) {
@@ -270,17 +241,6 @@ TEST_F(Frame, ReloadRestoresEverything) {
     host.set_token(883, 2);
     host.run(1);
     EXPECT_STREQ(text_of(g, 1), "2.0000");
-}
-
-TEST(Convert, TruncatesTowardZeroAndSaturates) {
-    EXPECT_EQ(trunc_to<i32>(-2.9), -2);
-    EXPECT_EQ(trunc_to<u8>(300.0), 255);
-    EXPECT_EQ(trunc_to<u8>(-1.0), 0);
-    EXPECT_EQ(trunc_to<i16>(1e300), 32767);
-    EXPECT_EQ(trunc_to<i32>(std::nan("")), 0);
-    EXPECT_EQ(trunc_to<u32>(4294967295.5), 4294967295u);
-    EXPECT_EQ(trunc_to<f32>(1e300), std::numeric_limits<f32>::max());
-    EXPECT_EQ(trunc_to<f32>(std::nan("")), 0.0f);
 }
 
 }  // namespace

@@ -210,15 +210,6 @@ TEST_F(Scenario, SoundChecksNameWhatHappened) {
     EXPECT_NE(out.find(":8: expected sound \"HI\" idle, got playing"), std::string::npos) << out;
 }
 
-TEST_F(Scenario, HoldCallsOnceWithoutRepeatAndRunsEveryCycle) {
-    auto f = write("hold.scn",
-                   "gauges \"testgauge2k\"\n"
-                   "hold \"testgauge2k\" 3 3 5\n"
-                   "expect token 1 == 5\n");
-    auto [status, out] = run({f});
-    EXPECT_EQ(status, 0) << out;
-}
-
 // expect value / expect text read what each element showed when its gauge
 // was last drawn: needles, both axes of moving images, branch strings.
 TEST_F(Scenario, DrawnValuesAndTexts) {

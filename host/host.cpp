@@ -1,30 +1,29 @@
 #include "host/host.h"
 
-#include <dlfcn.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
 
 #include "host/model/aircraft.h"
+#include "host/platform/library.h"
 
 namespace kestrane::host {
 
 // ---------------------------------------------------------------- module
 
 Module::Module(const std::string& path) {
-    handle_ = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    std::string why;
+    handle_ = platform::load_library(path, why);
     if (handle_ == nullptr) {
-        const char* why = dlerror();
-        error_ = "cannot load module " + path + ": " + (why ? why : "unknown error");
+        error_ = "cannot load module " + path + ": " + why;
         return;
     }
-    linkage_ = static_cast<ModuleLinkage*>(dlsym(handle_, "Linkage"));
-    imports_ = static_cast<ModuleImports*>(dlsym(handle_, "ImportTable"));
-    fields_ = static_cast<const FieldTable*>(dlsym(handle_, "KestraneFields"));
-    sounds_ = static_cast<const SoundTable*>(dlsym(handle_, "KestraneSounds"));
-    bitmaps_ = static_cast<const BitmapTable*>(dlsym(handle_, "KestraneBitmaps"));
+    linkage_ = static_cast<ModuleLinkage*>(platform::find_symbol(handle_, "Linkage"));
+    imports_ = static_cast<ModuleImports*>(platform::find_symbol(handle_, "ImportTable"));
+    fields_ = static_cast<const FieldTable*>(platform::find_symbol(handle_, "KestraneFields"));
+    sounds_ = static_cast<const SoundTable*>(platform::find_symbol(handle_, "KestraneSounds"));
+    bitmaps_ = static_cast<const BitmapTable*>(platform::find_symbol(handle_, "KestraneBitmaps"));
     if (linkage_ == nullptr || imports_ == nullptr) {
         error_ = "module " + path + " exports no Linkage or ImportTable";
         linkage_ = nullptr;
@@ -33,7 +32,7 @@ Module::Module(const std::string& path) {
 
 Module::~Module() {
     if (handle_ != nullptr)
-        dlclose(handle_);
+        platform::unload_library(handle_);
 }
 
 std::string default_module_path() {

@@ -17,43 +17,43 @@ SoundBuffer* owner(IDirectSoundBuffer* p) {
     return p ? reinterpret_cast<ComBuffer*>(p)->owner : nullptr;
 }
 
-HRESULT b_qi(IDirectSoundBuffer*, const GUID*, void**) {
+HRESULT KDSCALL b_qi(IDirectSoundBuffer*, const GUID*, void**) {
     return kGenericFail;
 }
-DWORD b_addref(IDirectSoundBuffer*) {
+DWORD KDSCALL b_addref(IDirectSoundBuffer*) {
     return 1;
 }
-DWORD b_release(IDirectSoundBuffer* p) {
+DWORD KDSCALL b_release(IDirectSoundBuffer* p) {
     return SoundDevice::instance().release(owner(p));
 }
-HRESULT b_get_status(IDirectSoundBuffer* p, LPDWORD status) {
+HRESULT KDSCALL b_get_status(IDirectSoundBuffer* p, LPDWORD status) {
     SoundBuffer* b = owner(p);
     if (!b || !status)
         return kInvalidParam;
     *status = (b->playing ? DSBSTATUS_PLAYING : 0) | (b->playing && b->looping ? DSBSTATUS_LOOPING : 0);
     return DS_OK;
 }
-HRESULT b_get_volume(IDirectSoundBuffer* p, LONG* v) {
+HRESULT KDSCALL b_get_volume(IDirectSoundBuffer* p, LONG* v) {
     SoundBuffer* b = owner(p);
     if (!b || !v)
         return kInvalidParam;
     *v = b->volume;
     return DS_OK;
 }
-HRESULT b_lock(IDirectSoundBuffer* p, DWORD off, DWORD n, LPVOID* p1, LPDWORD n1, LPVOID* p2, LPDWORD n2,
-               DWORD) {
+HRESULT KDSCALL b_lock(IDirectSoundBuffer* p, DWORD off, DWORD n, LPVOID* p1, LPDWORD n1, LPVOID* p2,
+                       LPDWORD n2, DWORD) {
     return SoundDevice::instance().lock(owner(p), off, n, p1, n1, p2, n2);
 }
-HRESULT b_play(IDirectSoundBuffer* p, DWORD, DWORD, DWORD flags) {
+HRESULT KDSCALL b_play(IDirectSoundBuffer* p, DWORD, DWORD, DWORD flags) {
     return SoundDevice::instance().play(owner(p), flags);
 }
-HRESULT b_set_volume(IDirectSoundBuffer* p, LONG v) {
+HRESULT KDSCALL b_set_volume(IDirectSoundBuffer* p, LONG v) {
     return SoundDevice::instance().set_volume(owner(p), v);
 }
-HRESULT b_stop(IDirectSoundBuffer* p) {
+HRESULT KDSCALL b_stop(IDirectSoundBuffer* p) {
     return SoundDevice::instance().stop(owner(p));
 }
-HRESULT b_unlock(IDirectSoundBuffer*, LPVOID, DWORD, LPVOID, DWORD) {
+HRESULT KDSCALL b_unlock(IDirectSoundBuffer*, LPVOID, DWORD, LPVOID, DWORD) {
     return DS_OK;
 }
 
@@ -63,19 +63,20 @@ const IDirectSoundBufferVtbl kBufferVtbl = {
     nullptr, b_set_volume, nullptr,      nullptr, b_stop,  b_unlock, nullptr,
 };
 
-HRESULT d_qi(IDirectSound8*, const GUID*, void**) {
+HRESULT KDSCALL d_qi(IDirectSound8*, const GUID*, void**) {
     return kGenericFail;
 }
-DWORD d_addref(IDirectSound8*) {
+DWORD KDSCALL d_addref(IDirectSound8*) {
     return 1;
 }
-DWORD d_release(IDirectSound8*) {
+DWORD KDSCALL d_release(IDirectSound8*) {
     return SoundDevice::instance().release_device();
 }
-HRESULT d_create_buffer(IDirectSound8*, const DSBUFFERDESC* desc, IDirectSoundBuffer** out, LPUNKNOWN) {
+HRESULT KDSCALL d_create_buffer(IDirectSound8*, const DSBUFFERDESC* desc, IDirectSoundBuffer** out,
+                                LPUNKNOWN) {
     return SoundDevice::instance().create_buffer(desc, out);
 }
-HRESULT d_set_level(IDirectSound8*, HWND, DWORD level) {
+HRESULT KDSCALL d_set_level(IDirectSound8*, HWND, DWORD level) {
     return SoundDevice::instance().set_cooperative_level(level);
 }
 
@@ -134,7 +135,9 @@ DWORD SoundDevice::release_device() {
 }
 
 HRESULT SoundDevice::create_buffer(const DSBUFFERDESC* desc, IDirectSoundBuffer** out) {
-    if (out == nullptr || desc == nullptr || desc->lpwfxFormat == nullptr)
+    // DirectSound takes the record's size as a version check.
+    if (out == nullptr || desc == nullptr || desc->lpwfxFormat == nullptr ||
+        desc->dwSize != sizeof(DSBUFFERDESC))
         return kInvalidParam;
     *out = nullptr;
     if (creations_++ == faults.fail_create_at)
@@ -313,7 +316,13 @@ void Recorder::flush_cycle() {
 
 }  // namespace kestrane::host
 
-extern "C" __attribute__((visibility("default"))) HRESULT DirectSoundCreate8(const GUID*, IDirectSound8** out,
-                                                                             LPUNKNOWN) {
+#if defined(_WIN32)
+#define KESTRANE_DSOUND_EXPORT __declspec(dllexport)
+#else
+#define KESTRANE_DSOUND_EXPORT __attribute__((visibility("default")))
+#endif
+
+extern "C" KESTRANE_DSOUND_EXPORT HRESULT KDSCALL DirectSoundCreate8(const GUID*, IDirectSound8** out,
+                                                                     LPUNKNOWN) {
     return kestrane::host::SoundDevice::instance().create(out);
 }

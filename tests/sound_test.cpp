@@ -247,6 +247,7 @@ TEST_F(Player, InstallLoadsEverySoundInTableOrderWithItsVolume) {
         const SoundBuffer& b = *dev().buffers()[i];
         EXPECT_EQ(b.name, e.name);
         EXPECT_EQ(b.desc.dwFlags, 0x100E2u);
+        EXPECT_EQ(b.desc.dwSize, sizeof(DSBUFFERDESC));
         EXPECT_EQ(b.desc.dwBufferBytes, e.data_bytes);
         EXPECT_EQ(b.format.nChannels, e.channels);
         EXPECT_EQ(b.volume, e.volume);
@@ -264,6 +265,26 @@ TEST_F(Player, InstallLoadsEverySoundInTableOrderWithItsVolume) {
     ASSERT_EQ(order.size(), 19u);
     for (std::size_t i = 0; i < 19; ++i)
         EXPECT_EQ(order[i], kTable[i].name);
+}
+
+// DirectSound refuses a description whose size is not its own record's (a
+// 32-bit size in a 64-bit module): the device does too.
+TEST_F(Player, DeviceRefusesADescriptionOfAnotherSize) {
+    WAVEFORMATEX f{WAVE_FORMAT_PCM, 1, 22050, 44100, 2, 16, 0};
+    DSBUFFERDESC d{};
+    d.dwBufferBytes = 64;
+    d.lpwfxFormat = &f;
+    IDirectSoundBuffer* out = nullptr;
+    for (DWORD size : {0u, 20u, 36u, 44u}) {
+        if (size == sizeof d)
+            continue;
+        d.dwSize = size;
+        EXPECT_LT(dev().create_buffer(&d, &out), 0) << size;
+        EXPECT_EQ(out, nullptr);
+    }
+    d.dwSize = sizeof d;
+    EXPECT_EQ(dev().create_buffer(&d, &out), DS_OK);
+    EXPECT_NE(out, nullptr);
 }
 
 TEST_F(Player, FailedLockOrBufferLosesOnlyThatSound) {

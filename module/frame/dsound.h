@@ -2,10 +2,12 @@
 // itself; elsewhere the same calls, of the same shape, are provided by the
 // process that loads the module (the stand-in host), the way the operating
 // system provides DirectSound on Windows. A process that provides none
-// leaves DirectSoundCreate8 null and the module runs silent.
+// leaves DirectSoundCreate8 null and the module runs silent. A provider
+// (KESTRANE_DSOUND_PROVIDER) uses the portable declarations on every system,
+// with DirectSound's calling convention.
 #pragma once
 
-#if defined(_WIN32)
+#if defined(_WIN32) && !defined(KESTRANE_DSOUND_PROVIDER)
 
 #include <dsound.h>
 #include <mmsystem.h>
@@ -16,6 +18,12 @@
 #else
 
 #include <cstdint>
+
+#if defined(_WIN32) && !defined(_WIN64)
+#define KDSCALL __stdcall
+#else
+#define KDSCALL
+#endif
 
 typedef std::int32_t HRESULT;
 typedef std::uint32_t DWORD;
@@ -59,27 +67,27 @@ struct IDirectSound8;
 // Buffer calls, in DirectSound's order (only those the player uses are filled
 // by every provider; the others may be null).
 struct IDirectSoundBufferVtbl {
-    HRESULT (*QueryInterface)(IDirectSoundBuffer*, const GUID*, void**);
-    DWORD (*AddRef)(IDirectSoundBuffer*);
-    DWORD (*Release)(IDirectSoundBuffer*);
-    HRESULT (*GetCaps)(IDirectSoundBuffer*, void*);
-    HRESULT (*GetCurrentPosition)(IDirectSoundBuffer*, LPDWORD, LPDWORD);
-    HRESULT (*GetFormat)(IDirectSoundBuffer*, WAVEFORMATEX*, DWORD, LPDWORD);
-    HRESULT (*GetVolume)(IDirectSoundBuffer*, LONG*);
-    HRESULT (*GetPan)(IDirectSoundBuffer*, LONG*);
-    HRESULT (*GetFrequency)(IDirectSoundBuffer*, LPDWORD);
-    HRESULT (*GetStatus)(IDirectSoundBuffer*, LPDWORD);
-    HRESULT (*Initialize)(IDirectSoundBuffer*, IDirectSound8*, const DSBUFFERDESC*);
-    HRESULT (*Lock)(IDirectSoundBuffer*, DWORD, DWORD, LPVOID*, LPDWORD, LPVOID*, LPDWORD, DWORD);
-    HRESULT (*Play)(IDirectSoundBuffer*, DWORD, DWORD, DWORD);
-    HRESULT (*SetCurrentPosition)(IDirectSoundBuffer*, DWORD);
-    HRESULT (*SetFormat)(IDirectSoundBuffer*, const WAVEFORMATEX*);
-    HRESULT (*SetVolume)(IDirectSoundBuffer*, LONG);
-    HRESULT (*SetPan)(IDirectSoundBuffer*, LONG);
-    HRESULT (*SetFrequency)(IDirectSoundBuffer*, DWORD);
-    HRESULT (*Stop)(IDirectSoundBuffer*);
-    HRESULT (*Unlock)(IDirectSoundBuffer*, LPVOID, DWORD, LPVOID, DWORD);
-    HRESULT (*Restore)(IDirectSoundBuffer*);
+    HRESULT(KDSCALL* QueryInterface)(IDirectSoundBuffer*, const GUID*, void**);
+    DWORD(KDSCALL* AddRef)(IDirectSoundBuffer*);
+    DWORD(KDSCALL* Release)(IDirectSoundBuffer*);
+    HRESULT(KDSCALL* GetCaps)(IDirectSoundBuffer*, void*);
+    HRESULT(KDSCALL* GetCurrentPosition)(IDirectSoundBuffer*, LPDWORD, LPDWORD);
+    HRESULT(KDSCALL* GetFormat)(IDirectSoundBuffer*, WAVEFORMATEX*, DWORD, LPDWORD);
+    HRESULT(KDSCALL* GetVolume)(IDirectSoundBuffer*, LONG*);
+    HRESULT(KDSCALL* GetPan)(IDirectSoundBuffer*, LONG*);
+    HRESULT(KDSCALL* GetFrequency)(IDirectSoundBuffer*, LPDWORD);
+    HRESULT(KDSCALL* GetStatus)(IDirectSoundBuffer*, LPDWORD);
+    HRESULT(KDSCALL* Initialize)(IDirectSoundBuffer*, IDirectSound8*, const DSBUFFERDESC*);
+    HRESULT(KDSCALL* Lock)(IDirectSoundBuffer*, DWORD, DWORD, LPVOID*, LPDWORD, LPVOID*, LPDWORD, DWORD);
+    HRESULT(KDSCALL* Play)(IDirectSoundBuffer*, DWORD, DWORD, DWORD);
+    HRESULT(KDSCALL* SetCurrentPosition)(IDirectSoundBuffer*, DWORD);
+    HRESULT(KDSCALL* SetFormat)(IDirectSoundBuffer*, const WAVEFORMATEX*);
+    HRESULT(KDSCALL* SetVolume)(IDirectSoundBuffer*, LONG);
+    HRESULT(KDSCALL* SetPan)(IDirectSoundBuffer*, LONG);
+    HRESULT(KDSCALL* SetFrequency)(IDirectSoundBuffer*, DWORD);
+    HRESULT(KDSCALL* Stop)(IDirectSoundBuffer*);
+    HRESULT(KDSCALL* Unlock)(IDirectSoundBuffer*, LPVOID, DWORD, LPVOID, DWORD);
+    HRESULT(KDSCALL* Restore)(IDirectSoundBuffer*);
 };
 
 struct IDirectSoundBuffer {
@@ -87,18 +95,18 @@ struct IDirectSoundBuffer {
 };
 
 struct IDirectSound8Vtbl {
-    HRESULT (*QueryInterface)(IDirectSound8*, const GUID*, void**);
-    DWORD (*AddRef)(IDirectSound8*);
-    DWORD (*Release)(IDirectSound8*);
-    HRESULT (*CreateSoundBuffer)(IDirectSound8*, const DSBUFFERDESC*, IDirectSoundBuffer**, LPUNKNOWN);
-    HRESULT (*GetCaps)(IDirectSound8*, void*);
-    HRESULT (*DuplicateSoundBuffer)(IDirectSound8*, IDirectSoundBuffer*, IDirectSoundBuffer**);
-    HRESULT (*SetCooperativeLevel)(IDirectSound8*, HWND, DWORD);
-    HRESULT (*Compact)(IDirectSound8*);
-    HRESULT (*GetSpeakerConfig)(IDirectSound8*, LPDWORD);
-    HRESULT (*SetSpeakerConfig)(IDirectSound8*, DWORD);
-    HRESULT (*Initialize)(IDirectSound8*, const GUID*);
-    HRESULT (*VerifyCertification)(IDirectSound8*, LPDWORD);
+    HRESULT(KDSCALL* QueryInterface)(IDirectSound8*, const GUID*, void**);
+    DWORD(KDSCALL* AddRef)(IDirectSound8*);
+    DWORD(KDSCALL* Release)(IDirectSound8*);
+    HRESULT(KDSCALL* CreateSoundBuffer)(IDirectSound8*, const DSBUFFERDESC*, IDirectSoundBuffer**, LPUNKNOWN);
+    HRESULT(KDSCALL* GetCaps)(IDirectSound8*, void*);
+    HRESULT(KDSCALL* DuplicateSoundBuffer)(IDirectSound8*, IDirectSoundBuffer*, IDirectSoundBuffer**);
+    HRESULT(KDSCALL* SetCooperativeLevel)(IDirectSound8*, HWND, DWORD);
+    HRESULT(KDSCALL* Compact)(IDirectSound8*);
+    HRESULT(KDSCALL* GetSpeakerConfig)(IDirectSound8*, LPDWORD);
+    HRESULT(KDSCALL* SetSpeakerConfig)(IDirectSound8*, DWORD);
+    HRESULT(KDSCALL* Initialize)(IDirectSound8*, const GUID*);
+    HRESULT(KDSCALL* VerifyCertification)(IDirectSound8*, LPDWORD);
 };
 
 struct IDirectSound8 {
@@ -137,7 +145,7 @@ typedef IDirectSound8* LPDIRECTSOUND8;
 // Provided by the loading process; weak in the module so that a process
 // without sound still loads it.
 #if defined(KESTRANE_DSOUND_PROVIDER)
-extern "C" HRESULT DirectSoundCreate8(const GUID* device, IDirectSound8** out, LPUNKNOWN outer);
+extern "C" HRESULT KDSCALL DirectSoundCreate8(const GUID* device, IDirectSound8** out, LPUNKNOWN outer);
 #else
 extern "C" HRESULT DirectSoundCreate8(const GUID* device, IDirectSound8** out, LPUNKNOWN outer)
     __attribute__((weak));

@@ -56,8 +56,8 @@ LPDIRECTSOUNDBUFFER create_and_fill(const WaveView& wave) {
         format.cbSize = 0;
     DSBUFFERDESC desc;
     std::memset(&desc, 0, sizeof desc);
-    desc.dwSize = 36;
-    desc.dwFlags = 0x100E2;  // static, frequency, pan, volume, position 2
+    desc.dwSize = sizeof desc;  // 36 bytes in the 32-bit module, 40 in a 64-bit one
+    desc.dwFlags = 0x100E2;     // static, frequency, pan, volume, position 2
     desc.dwBufferBytes = wave.data_size;
     desc.lpwfxFormat = &format;
     LPDIRECTSOUNDBUFFER buffer = nullptr;

@@ -1,0 +1,151 @@
+// Drawing, as the simulator does it for every shown element: the value and
+// string callbacks called, and what they returned kept for the checks.
+#include <cstring>
+
+#include "host/host.h"
+
+namespace kestrane::host {
+
+void Host::draw(GaugeHeader* g) {
+    if (g == nullptr || g->elements == nullptr)
+        return;
+    std::vector<Drawn>& slots = drawn_[g];
+    std::size_t at = 0;
+    draw_element(g->elements[0], 0, slots, at);
+}
+
+u8 element_callbacks(const Element* e) {
+    if (e == nullptr)
+        return 0;
+    auto bit = [](auto cb, u8 b) { return cb != nullptr ? b : u8{0}; };
+    switch (e->kind) {
+        case kNeedle:
+            return e->u.needle.callback != nullptr || e->u.needle.source.id != 0 ? u8{Drawn::kX} : u8{0};
+        case kString:
+            return bit(e->u.str.callback, Drawn::kText);
+        case kSlider:
+            return bit(e->u.slider.callback_x, Drawn::kX) | bit(e->u.slider.callback_y, Drawn::kY);
+        case kMovingImage:
+            return bit(e->u.moving.callback_x, Drawn::kX) | bit(e->u.moving.callback_y, Drawn::kY);
+        case kSprite:
+            return bit(e->u.sprite.callback_x, Drawn::kX) | bit(e->u.sprite.callback_y, Drawn::kY) |
+                   bit(e->u.sprite.callback_rot, Drawn::kRotation);
+        default:
+            return 0;
+    }
+}
+
+void Host::draw_element(Element* e, int depth, std::vector<Drawn>& slots, std::size_t& at) {
+    if (e == nullptr || depth > 256)
+        return;
+    if (slots.size() <= at)
+        slots.resize(at + 1);
+    Drawn& d = slots[at++];
+    if ((e->flags & kHidden) == 0)
+        draw_item(e, d);
+    if (e->children)
+        for (Element** c = e->children; *c != nullptr; ++c)
+            draw_element(*c, depth + 1, slots, at);
+}
+
+// One shown element: its value and string callbacks, as the simulator calls them.
+void Host::draw_item(Element* e, Drawn& d) {
+    auto value = [&](ValueCallback cb, int i) {
+        if (cb == nullptr)
+            return;
+        d.value[i] = cb(e);
+        d.have |= static_cast<u8>(1u << i);
+    };
+    switch (e->kind) {
+        case kNeedle:
+            if (e->u.needle.callback)
+                value(e->u.needle.callback, 0);
+            else if (e->u.needle.source.id) {
+                // the host shows the token itself
+                svc_lookup_var(&e->u.needle.source);
+                d.value[0] = e->u.needle.source.value.n;
+                d.have |= Drawn::kX;
+            }
+            break;
+        case kString:
+            if (e->u.str.callback) {
+                e->u.str.callback(e);
+                const char* t = e->u.str.text;
+                const char* end =
+                    t ? static_cast<const char*>(std::memchr(t, 0, e->u.str.char_count + 1)) : t;
+                d.text.assign(t ? t : "", t ? (end ? end : t + e->u.str.char_count + 1) - t : 0);
+                d.have |= Drawn::kText;
+            }
+            break;
+        case kSlider:
+            value(e->u.slider.callback_x, 0);
+            value(e->u.slider.callback_y, 1);
+            break;
+        case kMovingImage:
+            value(e->u.moving.callback_x, 0);
+            value(e->u.moving.callback_y, 1);
+            break;
+        case kSprite:
+            value(e->u.sprite.callback_x, 0);
+            value(e->u.sprite.callback_y, 1);
+            value(e->u.sprite.callback_rot, 2);
+            break;
+        default:
+            break;
+    }
+}
+
+namespace {
+// The elements of the tree under `e` that drawing does something for, with
+// their preorder positions (the drawing's slot numbers).
+template <class Item>
+void flatten_into(Element* e, int depth, std::uint32_t& at, std::vector<Item>& items) {
+    if (e == nullptr || depth > 256)
+        return;
+    const std::uint32_t slot = at++;
+    if (element_callbacks(e) != 0 || (e->kind == kNeedle && e->u.needle.source.id != 0))
+        items.push_back({e, slot});
+    if (e->children)
+        for (Element** c = e->children; *c != nullptr; ++c)
+            flatten_into(*c, depth + 1, at, items);
+}
+}  // namespace
+
+void Host::flatten(Element* e, int depth, std::uint32_t& at, std::vector<DrawItem>& items) {
+    flatten_into(e, depth, at, items);
+}
+
+namespace {
+// Preorder position of `target` in the tree under `e`, as the drawing counts.
+bool find_slot(const Element* e, const Element* target, int depth, std::size_t& at) {
+    if (e == nullptr || depth > 256)
+        return false;
+    if (e == target)
+        return true;
+    ++at;
+    if (e->children)
+        for (Element** c = e->children; *c != nullptr; ++c)
+            if (find_slot(*c, target, depth + 1, at))
+                return true;
+    return false;
+}
+}  // namespace
+
+const std::vector<Drawn>* Host::drawn_slots(const GaugeHeader* g) const {
+    auto it = drawn_.find(g);
+    return it == drawn_.end() ? nullptr : &it->second;
+}
+
+const Drawn* Host::drawn(GaugeHeader* g, const Element* e) const {
+    if (g == nullptr || g->elements == nullptr || e == nullptr)
+        return nullptr;
+    auto it = drawn_.find(g);
+    if (it == drawn_.end())
+        return nullptr;
+    std::size_t at = 0;
+    if (!find_slot(g->elements[0], e, 0, at) || at >= it->second.size())
+        return nullptr;
+    return &it->second[at];
+}
+
+}  // namespace kestrane::host

@@ -201,10 +201,15 @@ void Host::install(GaugeHeader* g) {
     installed_.push_back(g);
     std::vector<Drawn>& slots = drawn_[g];  // nodes are stable: keep a pointer
     DrawList list{&slots, {}};
-    std::uint32_t at = 0;
-    flatten(g->elements ? g->elements[0] : nullptr, 0, at, list.items);
-    if (slots.size() < at)
-        slots.resize(at);
+    // the elements that drawing does something for, with their slots
+    const std::vector<Element*> order = drawing_order(g);
+    for (std::uint32_t slot = 0; slot < order.size(); ++slot) {
+        Element* e = order[slot];
+        if (element_callbacks(e) != 0 || (e->kind == kNeedle && e->u.needle.source.id != 0))
+            list.items.push_back({e, slot});
+    }
+    if (slots.size() < order.size())
+        slots.resize(order.size());
     draw_lists_.push_back(std::move(list));
     for (Drawn& d : slots)
         d.have = 0;

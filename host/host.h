@@ -190,6 +190,8 @@ public:
     // Everything `g` showed when last drawn, in drawing order (each element,
     // then its children in list order); null when not drawn since load.
     const std::vector<Drawn>* drawn_slots(const GaugeHeader* g) const;
+    // Every element of `g` in that drawing order: the slots of drawn_slots().
+    static std::vector<Element*> drawing_order(GaugeHeader* g);
     static int chain_length(GaugeHeader* g);
     // Every element of `g` in drawing order with its label: "N" along the
     // chain, "N.K" for the K-th branch of eN (deeper branches add ".J").
@@ -252,7 +254,6 @@ private:
     };
     std::vector<DrawList> draw_lists_;  // one per installed gauge, in install order
     void draw_item(Element* e, Drawn& d);
-    static void flatten(Element* e, int depth, std::uint32_t& at, std::vector<DrawItem>& items);
     // Per gauge, the drawn values of its elements in drawing (preorder) order.
     std::unordered_map<const GaugeHeader*, std::vector<Drawn>> drawn_;
     std::unordered_map<std::string_view, int> gauge_by_name_;

@@ -1,5 +1,6 @@
 // Drawing, as the simulator does it for every shown element: the value and
 // string callbacks called, and what they returned kept for the checks.
+#include <algorithm>
 #include <cstring>
 
 #include "host/host.h"
@@ -96,40 +97,22 @@ void Host::draw_item(Element* e, Drawn& d) {
 }
 
 namespace {
-// The elements of the tree under `e` that drawing does something for, with
-// their preorder positions (the drawing's slot numbers).
-template <class Item>
-void flatten_into(Element* e, int depth, std::uint32_t& at, std::vector<Item>& items) {
+void preorder(Element* e, int depth, std::vector<Element*>& out) {
     if (e == nullptr || depth > 256)
         return;
-    const std::uint32_t slot = at++;
-    if (element_callbacks(e) != 0 || (e->kind == kNeedle && e->u.needle.source.id != 0))
-        items.push_back({e, slot});
+    out.push_back(e);
     if (e->children)
         for (Element** c = e->children; *c != nullptr; ++c)
-            flatten_into(*c, depth + 1, at, items);
+            preorder(*c, depth + 1, out);
 }
 }  // namespace
 
-void Host::flatten(Element* e, int depth, std::uint32_t& at, std::vector<DrawItem>& items) {
-    flatten_into(e, depth, at, items);
+std::vector<Element*> Host::drawing_order(GaugeHeader* g) {
+    std::vector<Element*> out;
+    if (g != nullptr && g->elements != nullptr)
+        preorder(g->elements[0], 0, out);
+    return out;
 }
-
-namespace {
-// Preorder position of `target` in the tree under `e`, as the drawing counts.
-bool find_slot(const Element* e, const Element* target, int depth, std::size_t& at) {
-    if (e == nullptr || depth > 256)
-        return false;
-    if (e == target)
-        return true;
-    ++at;
-    if (e->children)
-        for (Element** c = e->children; *c != nullptr; ++c)
-            if (find_slot(*c, target, depth + 1, at))
-                return true;
-    return false;
-}
-}  // namespace
 
 const std::vector<Drawn>* Host::drawn_slots(const GaugeHeader* g) const {
     auto it = drawn_.find(g);
@@ -142,8 +125,9 @@ const Drawn* Host::drawn(GaugeHeader* g, const Element* e) const {
     auto it = drawn_.find(g);
     if (it == drawn_.end())
         return nullptr;
-    std::size_t at = 0;
-    if (!find_slot(g->elements[0], e, 0, at) || at >= it->second.size())
+    const std::vector<Element*> order = drawing_order(g);
+    const std::size_t at = static_cast<std::size_t>(std::find(order.begin(), order.end(), e) - order.begin());
+    if (at >= order.size() || at >= it->second.size())
         return nullptr;
     return &it->second[at];
 }

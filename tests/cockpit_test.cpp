@@ -146,7 +146,7 @@ TEST_F(CockpitState, SendsOnlyWhatChanged) {
     const json full = state.full();
     std::size_t elements = 0;
     for (GaugeHeader* g : host.installed_gauges())
-        elements += drawing_order(g).size();
+        elements += Host::drawing_order(g).size();
     EXPECT_EQ(full["el"].size(), elements);
     for (const json& e : full["el"]) {
         if (e[0] == 17 && e[1] == 2) {

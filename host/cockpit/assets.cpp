@@ -74,7 +74,7 @@ json element_json(const Element* e) {
 
 json gauge_json(GaugeHeader* g, panel::Size size) {
     json elements = json::array();
-    for (const Element* e : drawing_order(g))
+    for (const Element* e : Host::drawing_order(g))
         elements.push_back(element_json(e));
     json mouse = json::array();
     std::string tip;

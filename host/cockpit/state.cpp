@@ -9,15 +9,6 @@ namespace kestrane::host::cockpit {
 
 namespace {
 
-void preorder(Element* e, int depth, std::vector<Element*>& out) {
-    if (e == nullptr || depth > 256)
-        return;
-    out.push_back(e);
-    if (e->children)
-        for (Element** c = e->children; *c != nullptr; ++c)
-            preorder(*c, depth + 1, out);
-}
-
 bool same(f64 a, f64 b) {
     return a == b || (std::isnan(a) && std::isnan(b));
 }
@@ -33,13 +24,6 @@ std::string ident_text(u32 ident) {
 
 }  // namespace
 
-std::vector<Element*> drawing_order(GaugeHeader* g) {
-    std::vector<Element*> out;
-    if (g != nullptr && g->elements != nullptr)
-        preorder(g->elements[0], 0, out);
-    return out;
-}
-
 const Drawn* StateTracker::Slot::drawn_at(const Host& host) const {
     const std::vector<Drawn>* d = host.drawn_slots(g);
     if (d == nullptr || static_cast<std::size_t>(index) >= d->size())
@@ -52,7 +36,7 @@ StateTracker::StateTracker(Host& host, std::vector<std::pair<std::string, bool>>
     for (GaugeHeader* g : host_.installed_gauges()) {
         const int gauge = host_.gauge_index(g->name);
         int i = 0;
-        for (Element* e : drawing_order(g)) {
+        for (Element* e : Host::drawing_order(g)) {
             Slot s;
             s.g = g;
             s.gauge = gauge;

@@ -20,10 +20,6 @@ namespace kestrane::host::cockpit {
 
 using json = nlohmann::json;
 
-// Every element of `g` in drawing order (each element, then its children in
-// list order), the order of the host's drawn slots.
-std::vector<Element*> drawing_order(GaugeHeader* g);
-
 class StateTracker {
 public:
     // `symbolic` are the windows the host does not know by number (the main

@@ -319,6 +319,18 @@ void run_script(const Script& script, Host& host, RunTotals& totals, std::ostrea
         runner.execute(c);
 }
 
+bool read_script_text(const std::string& path, std::string& text) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in)
+        return false;
+    // Read one byte past the limit at most: the parser reports an over-long
+    // script, and endless files (/dev/zero) end here.
+    text.assign(kMaxScriptBytes + 1, '\0');
+    in.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(in.gcount()));
+    return !in.bad();
+}
+
 int run_paths(const std::vector<std::string>& paths, Host& host, std::ostream& out) {
     namespace fs = std::filesystem;
     bool bad = false;
@@ -338,18 +350,8 @@ int run_paths(const std::vector<std::string>& paths, Host& host, std::ostream& o
     }
     RunTotals totals;
     for (const std::string& file : files) {
-        std::ifstream in(file, std::ios::binary);
-        if (!in) {
-            out << file << ":0: cannot read the script\n";
-            bad = true;
-            continue;
-        }
-        // Read one byte past the limit at most: the parser reports an
-        // over-long script, and endless files (/dev/zero) end here.
-        std::string text(kMaxScriptBytes + 1, '\0');
-        in.read(text.data(), static_cast<std::streamsize>(text.size()));
-        text.resize(static_cast<std::size_t>(in.gcount()));
-        if (in.bad()) {
+        std::string text;
+        if (!read_script_text(file, text)) {
             out << file << ":0: cannot read the script\n";
             bad = true;
             continue;

@@ -66,6 +66,10 @@ struct Command {
 
 // Bounds on what a script may ask: its size, one line, one run or hold.
 inline constexpr std::size_t kMaxScriptBytes = 4u << 20;
+
+// Reads a script file, at most one byte past kMaxScriptBytes; false when it
+// cannot be read.
+bool read_script_text(const std::string& path, std::string& text);
 inline constexpr std::size_t kMaxLineBytes = 4096;
 inline constexpr int kMaxCycles = 1000000;
 

@@ -199,7 +199,7 @@ private:
 // Runs a script's commands, checks skipped, on a freshly loaded module.
 bool run_setup(Host& host, const std::string& path, std::ostream& err, bool& aircraft_chosen) {
     std::string text;
-    if (!read_file(path, text)) {
+    if (!read_script_text(path, text)) {
         err << path << ": cannot read\n";
         return false;
     }

@@ -245,6 +245,20 @@ void SoundDevice::advance(std::vector<std::int16_t>* mix) {
         const int bytes = b.format.wBitsPerSample / 8;
         const double frames = static_cast<double>(b.data.size()) / (channels * bytes);
         const double step = rate / kMixRate;
+        if (!mix) {
+            // headless: nothing to mix, so skip to the cycle's end unless the
+            // sound ends or wraps within it (then step as when mixing)
+            const double end = b.position + kFrames * step;
+            if (end < frames) {
+                b.position = end;
+                continue;
+            }
+            if (!b.looping) {
+                b.playing = false;
+                b.position = 0;
+                continue;
+            }
+        }
         const double gain = std::pow(10.0, b.volume / 2000.0);
         for (int i = 0; i < kFrames && b.playing; ++i) {
             if (mix) {

@@ -3,6 +3,7 @@
 // Drawing alone is the full cycle less the module's pass.
 #include <benchmark/benchmark.h>
 
+#include <cstdlib>
 #include <vector>
 
 #include "host/host.h"
@@ -11,6 +12,13 @@ namespace {
 
 using kestrane::GaugeHeader;
 using kestrane::host::Host;
+
+// KESTRANE_BENCH_ITERATIONS=N runs each cycle benchmark exactly N times, so
+// that an instruction count under callgrind divides by a known number.
+void counted(benchmark::internal::Benchmark* b) {
+    if (const char* n = std::getenv("KESTRANE_BENCH_ITERATIONS"); n != nullptr && std::atoi(n) > 0)
+        b->Iterations(std::atoi(n));
+}
 
 // A host with every gauge installed. At load the cockpit waits for the
 // pilot's choice of start (and reopens the main windows every cycle); ready
@@ -50,7 +58,7 @@ void BM_FullCycle(benchmark::State& state) {
         full_cycle(host);
     state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(BM_FullCycle);
+BENCHMARK(BM_FullCycle)->Apply(counted);
 
 // One service-6 pass; not inlined, so that callgrind can count it alone
 // (--toggle-collect='*module_pass*').
@@ -72,7 +80,7 @@ void BM_ModulePass(benchmark::State& state) {
         module_pass(gauges);
     state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(BM_ModulePass);
+BENCHMARK(BM_ModulePass)->Apply(counted);
 
 // The same pass while the cockpit waits for the choice of start.
 void BM_ModulePassAtLoad(benchmark::State& state) {
@@ -87,7 +95,7 @@ void BM_ModulePassAtLoad(benchmark::State& state) {
         module_pass(gauges);
     state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(BM_ModulePassAtLoad);
+BENCHMARK(BM_ModulePassAtLoad)->Apply(counted);
 
 // One hour of simulated time at 18 cycles a second, headless.
 void BM_SimulatedHour(benchmark::State& state) {
@@ -98,7 +106,7 @@ void BM_SimulatedHour(benchmark::State& state) {
         host.run(64800);
     state.SetItemsProcessed(state.iterations() * 64800);
 }
-BENCHMARK(BM_SimulatedHour)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SimulatedHour)->Unit(benchmark::kMillisecond)->Apply(counted);
 
 void BM_ClickDiagnostic(benchmark::State& state) {
     Host host;

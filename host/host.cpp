@@ -106,7 +106,8 @@ Host::Host(std::string module_path) : module_path_(std::move(module_path)) {
     windows_.reserve(256);
     named_.reserve(64);
     installed_.reserve(256);
-    draw_lists_.reserve(256);
+    cycle_.reserve(256);
+    draw_items_.reserve(4096);
     reload();
 }
 
@@ -121,7 +122,8 @@ Host::~Host() {
 void Host::reset_tables() {
     held_ = {};
     installed_.clear();
-    draw_lists_.clear();
+    cycle_.clear();
+    draw_items_.clear();
     drawn_.clear();
     gauge_by_name_.clear();
     field_by_name_.clear();
@@ -130,6 +132,7 @@ void Host::reset_tables() {
     named_.clear();
     named_hits_ = {};
     calc_.clear();
+    calc_hits_ = {};
     windows_.clear();
     events_.clear();
     time_base_ = 0.0;
@@ -199,18 +202,18 @@ void Host::install(GaugeHeader* g) {
     if (g == nullptr || installed(g))
         return;
     installed_.push_back(g);
-    std::vector<Drawn>& slots = drawn_[g];  // nodes are stable: keep a pointer
-    DrawList list{&slots, {}};
+    std::vector<Drawn>& slots = drawn_[g];
     // the elements that drawing does something for, with their slots
     const std::vector<Element*> order = drawing_order(g);
+    const auto first = static_cast<std::uint32_t>(draw_items_.size());
     for (std::uint32_t slot = 0; slot < order.size(); ++slot) {
         Element* e = order[slot];
         if (element_callbacks(e) != 0 || (e->kind == kNeedle && e->u.needle.source.id != 0))
-            list.items.push_back({e, slot});
+            draw_items_.push_back({e, slot});
     }
     if (slots.size() < order.size())
         slots.resize(order.size());
-    draw_lists_.push_back(std::move(list));
+    cycle_.push_back({g, slots.data(), first, static_cast<std::uint32_t>(draw_items_.size())});
     for (Drawn& d : slots)
         d.have = 0;
     if (g->callback)
@@ -265,7 +268,15 @@ void Host::remove(GaugeHeader* g) {
         return;
     if (g->callback)
         g->callback(g, 12, 0);
-    draw_lists_.erase(draw_lists_.begin() + (it - installed_.begin()));
+    const auto at = it - installed_.begin();
+    const CycleGauge gone = cycle_[at];
+    draw_items_.erase(draw_items_.begin() + gone.first, draw_items_.begin() + gone.last);
+    cycle_.erase(cycle_.begin() + at);
+    for (CycleGauge& c : cycle_)
+        if (c.first >= gone.last) {
+            c.first -= gone.last - gone.first;
+            c.last -= gone.last - gone.first;
+        }
     installed_.erase(it);
 }
 
@@ -274,36 +285,6 @@ bool Host::installed(const GaugeHeader* g) const {
 }
 
 // ---------------------------------------------------------------- cycles
-
-void Host::run(int cycles) {
-    for (int c = 0; c < cycles; ++c) {
-        set_token(1, token(1) + 1.0);
-        // simulation time from where it was last set, without summing 1/18s
-        ++time_cycles_;
-        f64 now = time_base_ + static_cast<f64>(time_cycles_) / 18.0;
-        store_token(kTokenSimTime, &now, sizeof now);
-        if (model_)
-            model_->step(*this);
-        for (std::size_t i = 0; i < installed_.size(); ++i) {
-            GaugeHeader* g = installed_[i];
-            if (g->callback)
-                g->callback(g, 6, 0);
-            DrawList& list = draw_lists_[i];
-            std::vector<Drawn>& slots = *list.slots;
-            for (const DrawItem& item : list.items)
-                if ((item.e->flags & kHidden) == 0)
-                    draw_item(item.e, slots[item.slot]);
-        }
-        if (recorder_) {
-            sound_.advance(&recorder_->cycle_buffer());
-            recorder_->flush_cycle();
-        } else {
-            sound_.advance(nullptr);
-        }
-        if (trace_ && !trace_items_.empty() && time_cycles_ % 18 == 0)
-            trace_row();
-    }
-}
 
 // ---------------------------------------------------------------- mouse
 
@@ -407,9 +388,14 @@ f64 Host::token(u32 id) const {
 }
 
 void Host::svc_lookup_var(ModuleVar* var) {
-    u8 raw[8];
-    read_token(var->id, raw);
+    const u32 id = var->id;
     var->previous = var->value.n;
+    if (id < kDirectTokens) {  // nearly every read: one copy
+        std::memcpy(var->value.raw, tokens_[id].data(), 8);
+        return;
+    }
+    u8 raw[8];
+    read_token(id, raw);
     std::memcpy(var->value.raw, raw, 8);
 }
 

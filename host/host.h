@@ -242,17 +242,21 @@ private:
     HostServices services_{};
 
     std::vector<GaugeHeader*> installed_;
-    // What drawing an installed gauge does, flattened at install: the elements
-    // that have something to draw, each with its slot in the gauge's drawn_.
+    // What a cycle does for each installed gauge, flattened at install: its
+    // callback, then the elements that drawing does something for, each with
+    // its slot in the gauge's drawn_ values (vectors never resized once the
+    // gauge is installed).
     struct DrawItem {
         Element* e;
         std::uint32_t slot;
     };
-    struct DrawList {
-        std::vector<Drawn>* slots;
-        std::vector<DrawItem> items;
+    struct CycleGauge {
+        GaugeHeader* g;
+        Drawn* slots;
+        std::uint32_t first, last;  // its range of draw_items_
     };
-    std::vector<DrawList> draw_lists_;  // one per installed gauge, in install order
+    std::vector<CycleGauge> cycle_;     // in install order, as installed_
+    std::vector<DrawItem> draw_items_;  // every installed gauge's, in the same order
     void draw_item(Element* e, Drawn& d);
     // Per gauge, the drawn values of its elements in drawing (preorder) order.
     std::unordered_map<const GaugeHeader*, std::vector<Drawn>> drawn_;
@@ -274,6 +278,13 @@ private:
     };
     std::array<NamedHit, 64> named_hits_{};
     std::map<std::string, f64, std::less<>> calc_;
+    // The same for calculator expressions that have an answer: the last
+    // entry found for a pointer, checked by text; cleared when answers change.
+    struct CalcHit {
+        const char* code = nullptr;
+        const std::pair<const std::string, f64>* entry = nullptr;
+    };
+    std::array<CalcHit, 16> calc_hits_{};
     std::vector<u32> windows_;  // open panel windows
     struct Held {
         MouseRect* row = nullptr;

@@ -1,9 +1,11 @@
-// Drawing, as the simulator does it for every shown element: the value and
-// string callbacks called, and what they returned kept for the checks.
+// The update cycle, and drawing as the simulator does it for every shown
+// element: the value and string callbacks called, and what they returned kept
+// for the checks.
 #include <algorithm>
 #include <cstring>
 
 #include "host/host.h"
+#include "host/model/aircraft.h"
 
 namespace kestrane::host {
 
@@ -50,7 +52,7 @@ void Host::draw_element(Element* e, int depth, std::vector<Drawn>& slots, std::s
 }
 
 // One shown element: its value and string callbacks, as the simulator calls them.
-void Host::draw_item(Element* e, Drawn& d) {
+inline void Host::draw_item(Element* e, Drawn& d) {
     auto value = [&](ValueCallback cb, int i) {
         if (cb == nullptr)
             return;
@@ -130,6 +132,37 @@ const Drawn* Host::drawn(GaugeHeader* g, const Element* e) const {
     if (at >= order.size() || at >= it->second.size())
         return nullptr;
     return &it->second[at];
+}
+
+void Host::run(int cycles) {
+    for (int c = 0; c < cycles; ++c) {
+        set_token(1, token(1) + 1.0);
+        // simulation time from where it was last set, without summing 1/18s
+        ++time_cycles_;
+        f64 now = time_base_ + static_cast<f64>(time_cycles_) / 18.0;
+        store_token(kTokenSimTime, &now, sizeof now);
+        if (model_)
+            model_->step(*this);
+        // nothing a callback or a drawing callback can reach installs or
+        // removes a gauge, so the plan holds for the whole pass
+        const DrawItem* items = draw_items_.data();
+        for (const CycleGauge* c = cycle_.data(), *end = c + cycle_.size(); c != end; ++c) {
+            GaugeHeader* g = c->g;
+            if (g->callback)
+                g->callback(g, 6, 0);
+            for (const DrawItem *it = items + c->first, *last = items + c->last; it != last; ++it)
+                if ((it->e->flags & kHidden) == 0)
+                    draw_item(it->e, c->slots[it->slot]);
+        }
+        if (recorder_) {
+            sound_.advance(&recorder_->cycle_buffer());
+            recorder_->flush_cycle();
+        } else {
+            sound_.advance(nullptr);
+        }
+        if (trace_ && !trace_items_.empty() && time_cycles_ % 18 == 0)
+            trace_row();
+    }
 }
 
 }  // namespace kestrane::host

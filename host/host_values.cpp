@@ -51,6 +51,7 @@ std::optional<f64> Host::named(std::string_view name) const {
 
 void Host::set_calc(std::string_view expression, f64 value) {
     calc_.insert_or_assign(std::string(expression), value);
+    calc_hits_ = {};
 }
 
 u32 Host::svc_calc(const char* code, f64* result) {
@@ -59,9 +60,16 @@ u32 Host::svc_calc(const char* code, f64* result) {
     *result = 0.0;
     if (code == nullptr)
         return 0;
+    CalcHit& hit = calc_hits_[(reinterpret_cast<std::uintptr_t>(code) >> 3) % calc_hits_.size()];
+    if (hit.code == code && hit.entry != nullptr && std::strcmp(hit.entry->first.c_str(), code) == 0) {
+        *result = hit.entry->second;
+        return 1;
+    }
     auto it = calc_.find(std::string_view(code));
-    if (it != calc_.end())
+    if (it != calc_.end()) {
         *result = it->second;
+        hit = {code, &*it};
+    }
     return 1;
 }
 

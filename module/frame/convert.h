@@ -11,23 +11,21 @@ namespace kestrane {
 
 template <class T>
 constexpr T trunc_to(f64 v) {
-    if (!(v == v))
-        return T{0};
     if constexpr (std::numeric_limits<T>::is_integer) {
         constexpr f64 lo = static_cast<f64>(std::numeric_limits<T>::min());
         constexpr f64 hi = static_cast<f64>(std::numeric_limits<T>::max());
-        if (v <= lo)
-            return std::numeric_limits<T>::min();
-        if (v >= hi)
-            return std::numeric_limits<T>::max();
-        return static_cast<T>(v);
+        if (v > lo && v < hi)  // the usual case first; NaN fails both
+            return static_cast<T>(v);
+        if (!(v == v))
+            return T{0};
+        return v <= lo ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max();
     } else {
         constexpr f64 hi = static_cast<f64>(std::numeric_limits<T>::max());
-        if (v > hi)
-            return std::numeric_limits<T>::max();
-        if (v < -hi)
-            return std::numeric_limits<T>::lowest();
-        return static_cast<T>(v);
+        if (v >= -hi && v <= hi)
+            return static_cast<T>(v);
+        if (!(v == v))
+            return T{0};
+        return v > hi ? std::numeric_limits<T>::max() : std::numeric_limits<T>::lowest();
     }
 }
 

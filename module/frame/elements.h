@@ -36,7 +36,8 @@ inline void show(GaugeHeader* gauge, int n, bool shown) {
     const ChainIndex* index = chain_index(gauge);
     if (static_cast<unsigned>(n) >= static_cast<unsigned>(index->count))
         return;
-    Element* e = index->chain[n];
+    // the chain array lies right after the index (GaugeParts)
+    Element* e = reinterpret_cast<Element* const*>(index + 1)[n];
     if (shown)
         e->flags &= ~kHidden;
     else

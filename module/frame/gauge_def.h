@@ -16,6 +16,8 @@
 // run time and nothing is allocated.
 #pragma once
 
+#include <cstddef>
+
 #include "frame/elements.h"
 #include "frame/gauge_abi.h"
 
@@ -229,6 +231,9 @@ struct GaugeParts {
     MouseRect mouse[NM + 4];
     char text[NS > 0 ? NS : 1][kMaxText + 1];
 };
+// show() finds the chain right after the index.
+using OneElementParts = GaugeParts<1, 0, 0>;
+static_assert(offsetof(OneElementParts, chain) == sizeof(ChainIndex));
 
 // Builds the parts of `decl` in place at `self`, all pointers resolved.
 template <int NE, int NM, int NS>

@@ -27,6 +27,8 @@ f64 drum_roll(f64 pos, f64 target, i32 positions) {
 
 f64 drum_step(Drum& d) {
     const f64 top = static_cast<f64>(d.positions);
+    if (d.pos == d.target && d.pos >= 0.0 && d.pos <= top)
+        return d.pos;  // settled on its digit: most drums, most draws
     f64 pos = drum_roll(d.pos, d.target, d.positions);
     if (!(pos >= 0.0))
         pos = 0.0;

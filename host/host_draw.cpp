@@ -146,7 +146,7 @@ void Host::run(int cycles) {
         // nothing a callback or a drawing callback can reach installs or
         // removes a gauge, so the plan holds for the whole pass
         const DrawItem* items = draw_items_.data();
-        for (const CycleGauge* c = cycle_.data(), *end = c + cycle_.size(); c != end; ++c) {
+        for (const CycleGauge *c = cycle_.data(), *end = c + cycle_.size(); c != end; ++c) {
             GaugeHeader* g = c->g;
             if (g->callback)
                 g->callback(g, 6, 0);

@@ -244,3 +244,39 @@ TEST_F(Frame, ReloadRestoresEverything) {
 }
 
 }  // namespace
+
+// The host draws from a plan built at install; removing gauges from the middle
+// of it must leave every other gauge drawn as if they had never been there.
+TEST(HostPlan, RemovedGaugesLeaveTheOthersDrawnAsWithout) {
+    const std::set<std::string> gone = {"kestrane fuel_pumps_lh_jm47", "kestrane ias_jm47",
+                                        "kestrane toggle_pan_tadg"};
+    // one host at a time: hosts of one process share the loaded module
+    auto drawn = [&](bool install_then_remove) {
+        std::vector<std::vector<double>> values;
+        Host h;
+        EXPECT_TRUE(h.ok());
+        for (int i = 0; i < h.gauge_count(); ++i)
+            if (install_then_remove || gone.count(h.gauge(i)->name) == 0)
+                h.install(h.gauge(i));
+        if (install_then_remove)
+            for (const std::string& name : gone) {
+                EXPECT_NE(h.gauge(name), nullptr) << name;
+                h.remove(h.gauge(name));
+            }
+        h.set_field("panel_load_choice", 2);
+        h.run(60);
+        for (GaugeHeader* g : h.installed_gauges()) {
+            std::vector<double> v;
+            if (const auto* slots = h.drawn_slots(g))
+                for (const auto& d : *slots)
+                    v.insert(v.end(), {static_cast<double>(d.have), d.value[0], d.value[1], d.value[2]});
+            values.push_back(std::move(v));
+        }
+        return values;
+    };
+    const auto never = drawn(false);
+    const auto removed = drawn(true);
+    ASSERT_EQ(never.size(), removed.size());
+    for (std::size_t i = 0; i < never.size(); ++i)
+        EXPECT_EQ(never[i], removed[i]) << "gauge " << i;
+}

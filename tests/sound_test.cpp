@@ -399,6 +399,48 @@ TEST(Recording, MixesWhatPlays) {
         EXPECT_EQ(sample(i), 0);
 }
 
+// Headless, the device skips each cycle's frames at once; mixing for a
+// recording walks them. Sounds must start, wrap and end on the same cycles.
+TEST(Recording, HeadlessPlaysToTheSameFrame) {
+    auto path =
+        std::filesystem::temp_directory_path() / ("kestrane-same-" + std::to_string(::getpid()) + ".wav");
+    // one host at a time: hosts of one process share the loaded module
+    auto play = [&](bool record) {
+        std::vector<std::pair<bool, double>> seen;
+        Host h;
+        EXPECT_TRUE(h.ok());
+        if (record) {
+            EXPECT_TRUE(h.record_audio(path.string()));
+        }
+        h.install(h.gauge("kestrane toggle_pan_tadg"));
+        h.install(h.gauge("kestrane callsigns_jm47"));
+        h.install(h.gauge("kestrane warn_stall_jm47"));
+        h.set_field("elec_gen_bus", 1);
+        h.run(2);
+        h.click(h.gauge("kestrane callsigns_jm47"), 115, 60);  // HI, once
+        h.set_token(67, 1);                                     // the stall klaxon, looping
+        for (int cycle = 0; cycle < 60; ++cycle) {
+            h.run(1);
+            for (const char* name : {"HI", "KLAXONCONT"}) {
+                SoundBuffer* b = h.sound(name);
+                seen.emplace_back(b != nullptr && b->playing, b != nullptr ? b->position : -1.0);
+            }
+        }
+        return seen;
+    };
+    const auto headless = play(false);
+    const auto mixed = play(true);
+    std::filesystem::remove(path);
+    ASSERT_EQ(headless.size(), mixed.size());
+    for (std::size_t i = 0; i < headless.size(); ++i) {
+        EXPECT_EQ(headless[i].first, mixed[i].first) << "cycle " << i / 2 << " sound " << i % 2;
+        EXPECT_DOUBLE_EQ(headless[i].second, mixed[i].second) << "cycle " << i / 2 << " sound " << i % 2;
+    }
+    EXPECT_TRUE(headless[0].first) << "HI plays";
+    EXPECT_FALSE(headless[headless.size() - 2].first) << "HI has ended";
+    EXPECT_TRUE(headless.back().first) << "the klaxon loops on";
+}
+
 // ---------------------------------------------------------------- file fallback
 
 class Fallback : public ::testing::Test {

@@ -418,7 +418,7 @@ TEST(Recording, HeadlessPlaysToTheSameFrame) {
         h.set_field("elec_gen_bus", 1);
         h.run(2);
         h.click(h.gauge("kestrane callsigns_jm47"), 115, 60);  // HI, once
-        h.set_token(67, 1);                                     // the stall klaxon, looping
+        h.set_token(67, 1);                                    // the stall klaxon, looping
         for (int cycle = 0; cycle < 60; ++cycle) {
             h.run(1);
             for (const char* name : {"HI", "KLAXONCONT"}) {

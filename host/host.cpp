@@ -132,7 +132,8 @@ void Host::reset_tables() {
     named_.clear();
     named_hits_ = {};
     calc_.clear();
-    calc_hits_ = {};
+    for (CalcHit& hit : calc_hits_)
+        hit.code = nullptr;
     windows_.clear();
     events_.clear();
     time_base_ = 0.0;

@@ -276,15 +276,16 @@ private:
         const char* name = nullptr;
         u32 id = 0;
     };
-    std::array<NamedHit, 64> named_hits_{};
+    std::array<NamedHit, 256> named_hits_{};
     std::map<std::string, f64, std::less<>> calc_;
-    // The same for calculator expressions that have an answer: the last
-    // entry found for a pointer, checked by text; cleared when answers change.
+    // The same for calculator expressions: the answer last found for a
+    // pointer (none: 0), checked by text; cleared when answers change.
     struct CalcHit {
         const char* code = nullptr;
-        const std::pair<const std::string, f64>* entry = nullptr;
+        std::string text;
+        const f64* answer = nullptr;
     };
-    std::array<CalcHit, 16> calc_hits_{};
+    std::array<CalcHit, 64> calc_hits_{};
     std::vector<u32> windows_;  // open panel windows
     struct Held {
         MouseRect* row = nullptr;

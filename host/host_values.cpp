@@ -11,8 +11,17 @@ namespace kestrane::host {
 
 // ---------------------------------------------------------------- named variables, calculator
 
+namespace {
+// A slot for a text pointer in a small table of recent hits (Fibonacci hashing:
+// string literals lie close together, so their low bits alone collide).
+std::size_t hit_slot(const char* p, std::size_t slots) {
+    return static_cast<std::size_t>((reinterpret_cast<std::uintptr_t>(p) * 0x9E3779B97F4A7C15ull) >> 40) %
+           slots;
+}
+}  // namespace
+
 u32 Host::svc_register_named(const char* name) {
-    NamedHit& hit = named_hits_[(reinterpret_cast<std::uintptr_t>(name) >> 3) % named_hits_.size()];
+    NamedHit& hit = named_hits_[hit_slot(name, named_hits_.size())];
     if (hit.name == name && hit.id < named_.size() && std::strcmp(named_[hit.id].first.c_str(), name) == 0)
         return hit.id;
     u32 id = 0;
@@ -50,8 +59,10 @@ std::optional<f64> Host::named(std::string_view name) const {
 }
 
 void Host::set_calc(std::string_view expression, f64 value) {
-    calc_.insert_or_assign(std::string(expression), value);
-    calc_hits_ = {};
+    // a new expression may be one a hit remembers as having no answer
+    if (calc_.insert_or_assign(std::string(expression), value).second)
+        for (CalcHit& hit : calc_hits_)
+            hit.code = nullptr;
 }
 
 u32 Host::svc_calc(const char* code, f64* result) {
@@ -60,16 +71,15 @@ u32 Host::svc_calc(const char* code, f64* result) {
     *result = 0.0;
     if (code == nullptr)
         return 0;
-    CalcHit& hit = calc_hits_[(reinterpret_cast<std::uintptr_t>(code) >> 3) % calc_hits_.size()];
-    if (hit.code == code && hit.entry != nullptr && std::strcmp(hit.entry->first.c_str(), code) == 0) {
-        *result = hit.entry->second;
-        return 1;
+    CalcHit& hit = calc_hits_[hit_slot(code, calc_hits_.size())];
+    if (hit.code != code || std::strcmp(hit.text.c_str(), code) != 0) {
+        auto it = calc_.find(std::string_view(code));
+        hit.code = code;
+        hit.text = code;
+        hit.answer = it != calc_.end() ? &it->second : nullptr;
     }
-    auto it = calc_.find(std::string_view(code));
-    if (it != calc_.end()) {
-        *result = it->second;
-        hit = {code, &*it};
-    }
+    if (hit.answer != nullptr)
+        *result = *hit.answer;
     return 1;
 }
 

@@ -280,3 +280,34 @@ TEST(HostPlan, RemovedGaugesLeaveTheOthersDrawnAsWithout) {
     for (std::size_t i = 0; i < never.size(); ++i)
         EXPECT_EQ(never[i], removed[i]) << "gauge " << i;
 }
+
+// Named variables and calculator answers are found by the pointer last seen,
+// but always by text: a buffer reused for another name gets the other's value.
+TEST_F(Frame, ServiceLookupsFollowTheTextNotThePointer) {
+    auto calc = [&](const char* code) {
+        f64 r = -1.0;
+        host.svc_calc(code, &r);
+        return r;
+    };
+    char buf[32] = "(A:ONE,bool)";
+    EXPECT_EQ(calc(buf), 0.0);  // no answer yet
+    host.set_calc("(A:ONE,bool)", 1.0);
+    EXPECT_EQ(calc(buf), 1.0);  // a new answer replaces a remembered "none"
+    host.set_calc("(A:ONE,bool)", 2.0);
+    EXPECT_EQ(calc(buf), 2.0);
+    std::strcpy(buf, "(A:TWO,bool)");
+    EXPECT_EQ(calc(buf), 0.0);
+    host.set_calc("(A:TWO,bool)", 3.0);
+    EXPECT_EQ(calc(buf), 3.0);
+
+    char name[32] = "first_name";
+    const u32 first = host.svc_register_named(name);
+    host.svc_set_named(first, 4.0);
+    std::strcpy(name, "second_name");
+    const u32 second = host.svc_register_named(name);
+    EXPECT_NE(first, second);
+    EXPECT_EQ(host.svc_get_named(second), 0.0);
+    std::strcpy(name, "first_name");
+    EXPECT_EQ(host.svc_register_named(name), first);
+    EXPECT_EQ(host.svc_get_named(first), 4.0);
+}

@@ -23,11 +23,19 @@ for line in open(dump):
 
 captions = {}
 pat = re.compile(r'\b(\d+)\b.*//\s*e[\d.]+\s*(.*)$')
+# our own artwork is numbered by art(): elec_a::art(gauge, n), ap::art(n)
+art_pat = re.compile(r'\bart\((\d+)\s*,\s*(\d+)\)|\bart\((\d+)\).*//\s*e[\d.]+\s*(.*)$')
+art_cap = re.compile(r'//\s*e[\d.]+\s*(.*)$')
 for root, _, files in os.walk(src):
     for name in sorted(files):
         if not name.endswith('.cpp'):
             continue
         for line in open(os.path.join(root, name)):
+            a, c = art_pat.search(line), art_cap.search(line)
+            if a and c:
+                bid = 26000 + 16 * (int(a.group(1)) * 8 + int(a.group(2))) if a.group(1) else 44000 + 16 * int(a.group(3))
+                captions.setdefault(str(bid), c.group(1).strip().replace('\t', ' '))
+                continue
             m = pat.search(line)
             if m and m.group(1) not in captions:
                 captions[m.group(1)] = m.group(2).strip().replace('\t', ' ')

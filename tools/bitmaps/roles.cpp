@@ -314,14 +314,23 @@ void draw_switch(cairo_t* cr, const Bitmap& b) {
         dy = -1;
     if (has(b.caption, "down") || has(b.caption, "off") || has(b.caption, "shut") || has(b.caption, "closed"))
         dy = 1;
-    if (has(b.caption, "left"))
-        dx = -1, dy = 0;
-    if (has(b.caption, "right"))
-        dx = 1, dy = 0;
+    // left or right only when the caption names no other way ("left selector
+    // up" is the left selector, up)
+    const bool centre = has(b.caption, "centre") || has(b.caption, "center");
+    if (dy == 0 && !centre && has(b.caption, "left"))
+        dx = -1;
+    if (dy == 0 && !centre && has(b.caption, "right"))
+        dx = 1;
+    double len = (dx != 0 ? b.w : b.h) / 2.0 - r - 1;
+    if (dx != 0 && b.w < b.h) {
+        // left or right on a tall narrow switch: a selector turned that way
+        dx *= M_SQRT1_2;
+        dy = -M_SQRT1_2;
+        len = b.h / 2.0 - r - 1;
+    }
     set(cr, {0.15, 0.15, 0.16});
     cairo_arc(cr, cx, cy, r * 1.5, 0, 2 * M_PI);
     cairo_fill(cr);
-    double len = (dx != 0 ? b.w : b.h) / 2.0 - r - 1;
     set(cr, {0.82, 0.82, 0.84});
     cairo_set_line_width(cr, r);
     cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);

@@ -70,9 +70,9 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
 
 KESTRANE_GAUGE(elec_mas_sw, gauge("kestrane elec_mas_sw_jm47", 128, update)
                                 .elements(image(26272, 0x4001),                  // e0 background
-                                          icon(art(17, 1), 0, 0, 0x40000003),    // e1 GROUND POWER
-                                          icon(art(17, 2), 0, 0, 0x40000003),    // e2 OFF
-                                          icon(art(17, 3), 0, 0, 0x40000003),    // e3 BATTERY
+                                          icon(art(17, 1), 0, 0, 0x40000003),    // e1 switch right: GROUND POWER
+                                          icon(art(17, 2), 0, 0, 0x40000003),    // e2 switch centre: master at 0
+                                          icon(art(17, 3), 0, 0, 0x40000003),    // e3 switch left: BATTERY
                                           icon(art(17, 4), 85, 35, 0x40000003))  // e4 ground power lamp
                                 .mouse(click(45, 0, 23, 40, kCursorHand, to_ground),
                                        click(22, 0, 23, 40, kCursorHand, to_off),

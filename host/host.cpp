@@ -285,8 +285,6 @@ bool Host::installed(const GaugeHeader* g) const {
     return std::find(installed_.begin(), installed_.end(), g) != installed_.end();
 }
 
-// ---------------------------------------------------------------- cycles
-
 // ---------------------------------------------------------------- mouse
 
 MouseRect* Host::hit(GaugeHeader* g, int x, int y, u32 event_flags) {

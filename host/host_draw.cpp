@@ -146,13 +146,13 @@ void Host::run(int cycles) {
         // nothing a callback or a drawing callback can reach installs or
         // removes a gauge, so the plan holds for the whole pass
         const DrawItem* items = draw_items_.data();
-        for (const CycleGauge *c = cycle_.data(), *end = c + cycle_.size(); c != end; ++c) {
-            GaugeHeader* g = c->g;
+        for (const CycleGauge *gauge = cycle_.data(), *end = gauge + cycle_.size(); gauge != end; ++gauge) {
+            GaugeHeader* g = gauge->g;
             if (g->callback)
                 g->callback(g, 6, 0);
-            for (const DrawItem *it = items + c->first, *last = items + c->last; it != last; ++it)
+            for (const DrawItem *it = items + gauge->first, *last = items + gauge->last; it != last; ++it)
                 if ((it->e->flags & kHidden) == 0)
-                    draw_item(it->e, c->slots[it->slot]);
+                    draw_item(it->e, gauge->slots[it->slot]);
         }
         if (recorder_) {
             sound_.advance(&recorder_->cycle_buffer());

@@ -66,6 +66,37 @@ describe('cockpit page', () => {
     assert.equal(await clicks(), plays);
   });
 
+  test('a window moves by its title bar, its gauges with it, and stays where it was left', async () => {
+    const ident = '10100', name = 'kestrane elec_mas_sw_jm47';
+    const rect = () => page.evaluate((id) => {
+      const r = document.querySelector(`canvas[data-ident="${id}"]`).getBoundingClientRect();
+      return [r.left, r.top];
+    }, ident);
+    const [x0, y0] = await rect();
+    const title = page.locator(`.window[data-ident="${ident}"] .title`);
+    const t = await title.boundingBox();
+    await page.mouse.move(t.x + 10, t.y + 5);
+    await page.mouse.down();
+    await page.mouse.move(t.x - 40, t.y + 35, { steps: 5 });
+    await page.mouse.up();
+    const [x1, y1] = await rect();
+    assert.ok(Math.abs(x1 - (x0 - 50)) <= 1 && Math.abs(y1 - (y0 + 30)) <= 1, `moved to ${x1},${y1} from ${x0},${y0}`);
+    // the master switch answers where it is drawn now: to 1, and back to 2
+    await h.click(page, ident, name, 50, 10);
+    await h.cycles(page, 3);
+    assert.equal(await h.field(page, 'elec_master_sw'), 1);
+    await h.click(page, ident, name, 10, 10);
+    await h.cycles(page, 3);
+    assert.equal(await h.field(page, 'elec_master_sw'), 2);
+    // closed and opened again by its toggles: where it was left
+    await h.click(page, ident, 'kestrane toggle_pan_elec2', 20, 60);
+    await h.waitOpen(page, ident, false);
+    await h.click(page, 'MAIN_PANEL', 'kestrane toggle_pan_elec', 100, 30);
+    await h.waitOpen(page, ident);
+    assert.deepEqual(await rect(), [x1, y1]);
+    assert.deepEqual(page.errors, []);
+  });
+
   test('holding the altitude selector keeps turning it; a click turns it one step', async () => {
     const name = 'kestrane setalt_jm47';
     const at = await h.gaugePoint(page, 'MAIN_PANEL', name, 150, 70);

@@ -189,9 +189,10 @@ function buildWindows() {
     canvas.dataset.ident = win.ident;
     div.append(title, canvas);
     screen.append(div);
-    const view = { win, div, canvas, cx: canvas.getContext('2d'), index };
+    const view = { win, div, canvas, cx: canvas.getContext('2d'), index, moved: null };
     views.push(view);
     hookMouse(view);
+    hookDrag(view, title);
     const label = document.createElement('label');
     const box = document.createElement('input');
     box.type = 'checkbox';
@@ -218,7 +219,7 @@ function placeWindows() {
     const wasHidden = view.div.hidden;
     view.div.hidden = z < 0;
     if (z >= 0) {
-      const [x, y] = view === views[0] ? [0, 0] : anchor(view.win, main);
+      const [x, y] = view === views[0] ? [0, 0] : view.moved || anchor(view.win, main);
       view.div.style.left = `${x}px`;
       view.div.style.top = `${y}px`;
       view.div.style.zIndex = String(z + 1);
@@ -231,6 +232,35 @@ function placeWindows() {
   }
   for (const box of document.querySelectorAll('#windows-menu input'))
     box.checked = cockpit.open.includes(box.dataset.ident);
+}
+
+// A window moves with its title bar dragged, and stays where it was left when
+// closed and opened again (until the page reloads). Its title stays on the
+// screen.
+function hookDrag(view, title) {
+  title.addEventListener('mousedown', (e) => {
+    if (e.button !== 0) return;
+    e.preventDefault();
+    const scale = view.div.getBoundingClientRect().width / view.div.offsetWidth || 1;
+    const start = [e.clientX, e.clientY, view.div.offsetLeft, view.div.offsetTop];
+    const main = cockpit.layout.windows[0];
+    const move = (m) => {
+      const x = start[2] + (m.clientX - start[0]) / scale;
+      const y = start[3] + (m.clientY - start[1]) / scale;
+      view.moved = [
+        Math.round(Math.min(Math.max(x, -view.win.w + 40), main.w - 40)),
+        Math.round(Math.min(Math.max(y, 18), main.h - 18)),
+      ];
+      view.div.style.left = `${view.moved[0]}px`;
+      view.div.style.top = `${view.moved[1]}px`;
+    };
+    const up = () => {
+      window.removeEventListener('mousemove', move);
+      window.removeEventListener('mouseup', up);
+    };
+    window.addEventListener('mousemove', move);
+    window.addEventListener('mouseup', up);
+  });
 }
 
 // Redraws a whole window, or only its gauges whose state changed (gauges of

@@ -70,9 +70,9 @@ BENCHMARK(BM_FullCycle)->Apply(counted);
 }
 
 // The module's own work: service 6 of every installed gauge, no drawing.
-void BM_ModulePass(benchmark::State& state) {
+void module_passes(benchmark::State& state, Start start) {
     Host host;
-    if (!ready(host, state))
+    if (!ready(host, state, start))
         return;
     std::vector<GaugeHeader*> gauges;
     for (GaugeHeader* g : host.installed_gauges())
@@ -84,22 +84,15 @@ void BM_ModulePass(benchmark::State& state) {
     }
     state.SetItemsProcessed(state.iterations());
 }
+
+void BM_ModulePass(benchmark::State& state) {
+    module_passes(state, Start::kReadyToFly);
+}
 BENCHMARK(BM_ModulePass)->Apply(counted);
 
 // The same pass while the cockpit waits for the choice of start.
 void BM_ModulePassAtLoad(benchmark::State& state) {
-    Host host;
-    if (!ready(host, state, Start::kAtLoad))
-        return;
-    std::vector<GaugeHeader*> gauges;
-    for (GaugeHeader* g : host.installed_gauges())
-        if (g->callback != nullptr)
-            gauges.push_back(g);
-    for (auto _ : state) {
-        host.begin_step();
-        module_pass(gauges);
-    }
-    state.SetItemsProcessed(state.iterations());
+    module_passes(state, Start::kAtLoad);
 }
 BENCHMARK(BM_ModulePassAtLoad)->Apply(counted);
 

@@ -209,7 +209,7 @@ void Host::install(GaugeHeader* g) {
     const auto first = static_cast<std::uint32_t>(draw_items_.size());
     for (std::uint32_t slot = 0; slot < order.size(); ++slot) {
         Element* e = order[slot];
-        if (element_callbacks(e) != 0 || (e->kind == kNeedle && e->u.needle.source.id != 0))
+        if (element_callbacks(e) != 0)  // a needle that shows its token counts too
             draw_items_.push_back({e, slot});
     }
     if (slots.size() < order.size())

@@ -2,17 +2,20 @@
 // eN the first child of e(N-1).
 #pragma once
 
+#include <cstddef>
+
 #include "frame/gauge_abi.h"
 
 namespace kestrane {
 
 // What a declared gauge's `elements` points at: the host's one-entry list,
 // then the chain by number, filled when the gauge is linked, so that eN is
-// one look-up instead of a walk down N first children.
+// one look-up instead of a walk down N first children. The chain's elements
+// themselves follow the index, e0 first.
 struct ChainIndex {
     Element* root[2];  // the background, then null
     Element* const* chain;
-    int count;
+    std::size_t count;  // not an int: a flag store cannot change it
 };
 
 inline const ChainIndex* chain_index(GaugeHeader* gauge) {
@@ -25,7 +28,7 @@ inline Element* element(GaugeHeader* gauge, int n) {
     if (n <= 0)
         return gauge->elements[0];
     const ChainIndex* index = chain_index(gauge);
-    return n < index->count ? index->chain[n] : nullptr;
+    return static_cast<std::size_t>(n) < index->count ? index->chain[n] : nullptr;
 }
 
 // Shows or hides image eN of a gauge's own callback: `gauge` is the
@@ -34,10 +37,10 @@ inline Element* element(GaugeHeader* gauge, int n) {
 // and the flag.
 inline void show(GaugeHeader* gauge, int n, bool shown) {
     const ChainIndex* index = chain_index(gauge);
-    if (static_cast<unsigned>(n) >= static_cast<unsigned>(index->count))
+    if (static_cast<std::size_t>(n) >= index->count)
         return;
-    // the chain array lies right after the index (GaugeParts)
-    Element* e = reinterpret_cast<Element* const*>(index + 1)[n];
+    // the chain's elements lie right after the index, in order (GaugeParts)
+    Element* e = const_cast<Element*>(reinterpret_cast<const Element*>(index + 1)) + n;
     if (shown)
         e->flags &= ~kHidden;
     else

@@ -221,19 +221,20 @@ constexpr GaugeDecl<0, 0> gauge(const char* name, u32 width, GaugeCallback cb) {
 }
 
 // The linked records of one gauge, as the host sees them; they begin with
-// the element index (frame/elements.h).
+// the element index (frame/elements.h). The chain elements lie first, in
+// chain order, right after the index; branch elements follow them.
 template <int NE, int NM, int NS>
 struct GaugeParts {
     ChainIndex head;
-    Element* chain[NE];  // chain elements by number
     Element elems[NE];
+    Element* chain[NE];  // chain elements by number
     Element* links[2 * NE];
     MouseRect mouse[NM + 4];
     char text[NS > 0 ? NS : 1][kMaxText + 1];
 };
-// show() finds the chain right after the index.
+// show() finds eN at the Nth element after the index.
 using OneElementParts = GaugeParts<1, 0, 0>;
-static_assert(offsetof(OneElementParts, chain) == sizeof(ChainIndex));
+static_assert(offsetof(OneElementParts, elems) == sizeof(ChainIndex));
 
 // Builds the parts of `decl` in place at `self`, all pointers resolved.
 template <int NE, int NM, int NS>
@@ -251,38 +252,45 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeDecl<NE, NM>& decl, GaugeHeader
         chain_of[i] = -1;
     }
     int chain_elem[NE];
+    int slot_of[NE];  // element index -> place in elems: the chain first, then the branches
     for (int i = 0; i < NE; ++i) {
         if (decl.elems[i].parent < 0) {
             chain_of[i] = n_chain;
+            slot_of[i] = n_chain;
             chain_elem[n_chain++] = i;
         }
     }
+    int n_branch = 0;
+    for (int i = 0; i < NE; ++i)
+        if (chain_of[i] < 0)
+            slot_of[i] = n_chain + n_branch++;
     for (int c = 0; c + 1 < n_chain; ++c)
         chain_next[chain_elem[c]] = chain_elem[c + 1];
     for (int c = 0; c < n_chain; ++c)
-        p.chain[c] = &self->elems[chain_elem[c]];
-    p.head.count = n_chain;
+        p.chain[c] = &self->elems[c];
+    p.head.count = static_cast<std::size_t>(n_chain);
     int link_at = 0;
     int string_at = 0;
     for (int i = 0; i < NE; ++i) {
-        p.elems[i] = decl.elems[i].e;
-        p.elems[i].gauge = header;
-        if (p.elems[i].kind == kString) {
-            p.elems[i].u.str.text = self->text[string_at++];
+        Element& e = p.elems[slot_of[i]];
+        e = decl.elems[i].e;
+        e.gauge = header;
+        if (e.kind == kString) {
+            e.u.str.text = self->text[string_at++];
         }
         if (chain_of[i] < 0)
             continue;
         int first = link_at;
         if (chain_next[i] >= 0)
-            p.links[link_at++] = &self->elems[chain_next[i]];
+            p.links[link_at++] = &self->elems[slot_of[chain_next[i]]];
         for (int j = 0; j < NE; ++j) {
             if (decl.elems[j].parent == chain_of[i])
-                p.links[link_at++] = &self->elems[j];
+                p.links[link_at++] = &self->elems[slot_of[j]];
         }
         if (link_at == first)
             continue;  // no children
         p.links[link_at++] = nullptr;
-        p.elems[i].children = &self->links[first];
+        e.children = &self->links[first];
     }
     int r = 0;
     p.mouse[r] = MouseRect{};

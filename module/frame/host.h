@@ -4,6 +4,15 @@
 
 #include "frame/gauge_abi.h"
 
+#if !defined(_WIN32)
+// ImportTable under a name of the library's own: read without a trip through
+// the symbol table (linkage.cpp).
+extern "C" __attribute__((visibility("hidden"))) kestrane::ModuleImports kestrane_imports;
+#define KESTRANE_IMPORTS kestrane_imports
+#else
+#define KESTRANE_IMPORTS ImportTable
+#endif
+
 namespace kestrane {
 
 // Service ids the gauge callbacks act on.
@@ -14,7 +23,7 @@ inline constexpr u32 kServiceKill = 12;
 namespace host {
 
 inline const HostServices* services() {
-    return static_cast<const HostServices*>(ImportTable.entries[0].ptr);
+    return static_cast<const HostServices*>(KESTRANE_IMPORTS.entries[0].ptr);
 }
 
 // Refreshes a token variable and returns its value as a number. Inline: the

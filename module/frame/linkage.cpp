@@ -70,6 +70,9 @@ KEXPORT constinit ModuleLinkage Linkage = {
 };
 
 KEXPORT constinit ModuleImports ImportTable = {{{kImportPanels, nullptr}, {0, nullptr}}};
+#if !defined(_WIN32)
+extern ModuleImports kestrane_imports __attribute__((alias("ImportTable")));
+#endif
 
 }  // extern "C"
 

@@ -112,6 +112,38 @@ TEST_F(Bitmaps, EveryImageIsEmbeddedAsA24BitBmpOfItsSize) {
     }
 }
 
+// One bitmap is one picture: gauges that share an image number must use it
+// the same way. Independent numberings of our own artwork once overlapped,
+// and the altitude selector drew the autopilot's lights as its digits.
+TEST_F(Bitmaps, ASharedImageIsUsedTheSameWayByEveryGauge) {
+    struct Use {
+        std::string gauge;
+        u32 kind;
+        i32 ref_x, ref_y;
+    };
+    std::map<u32, Use> first;
+    int shared = 0;
+    for (int i = 0; i < host.gauge_count(); ++i) {
+        GaugeHeader* g = host.gauge(i);
+        Host::for_each_element(g, [&](Element* e, const std::string& label) {
+            if (e->kind == kString)
+                return;
+            // a background may come back as an icon
+            const u32 kind = e->kind == kStaticImage ? u32{kIcon} : e->kind;
+            const bool pivots = kind == kNeedle || kind == kSprite;
+            const Use use{g->name, kind, pivots ? e->ref_x : 0, pivots ? e->ref_y : 0};
+            auto [it, added] = first.emplace(e->bitmap, use);
+            if (added || it->second.gauge == use.gauge)
+                return;
+            ++shared;
+            EXPECT_TRUE(it->second.kind == use.kind && it->second.ref_x == use.ref_x && it->second.ref_y == use.ref_y)
+                << "bitmap " << e->bitmap << ": " << it->second.gauge << " and " << use.gauge << " e" << label
+                << " use it differently";
+        });
+    }
+    EXPECT_GT(shared, 50);  // the full instruments and their small copies, twin panels
+}
+
 struct Pixel {
     int b, g, r;
     bool black() const { return b == 0 && g == 0 && r == 0; }

@@ -93,36 +93,36 @@ constexpr auto layout(G g, Readouts r) {
     return g
         .elements(
             image(42032, 0x4001),                                                     // e0 background
-            sprite(44016, 0, 0, kCx, kCy, kShown, 128, 128, nullptr, nullptr, card),  // e1 compass card
-            needle(44032, kCx, kCy, 6, 100, kShown, course_angle, linear),            // e2 course pointer
-            needle(44048, kCx, kCy, 6, 100, kHiddenIcon, course_angle, linear),  // e3 NAV-flagged pointer
-            needle(44064, kCx, kCy, 6, 60, kHiddenIcon, course_angle, linear),   // e4 FROM arrow
-            needle(44080, kCx, kCy, 6, 60, kHiddenIcon, course_angle, linear),   // e5 TO arrow
-            sprite(44096, 0, 0, kCx, kCy, kShown, 4, 60, bar_offset, nullptr,
+            sprite(47016, 0, 0, kCx, kCy, kShown, 128, 128, nullptr, nullptr, card),  // e1 compass card
+            needle(47032, kCx, kCy, 6, 100, kShown, course_angle, linear),            // e2 course pointer
+            needle(47048, kCx, kCy, 6, 100, kHiddenIcon, course_angle, linear),  // e3 NAV-flagged pointer
+            needle(47064, kCx, kCy, 6, 60, kHiddenIcon, course_angle, linear),   // e4 FROM arrow
+            needle(47080, kCx, kCy, 6, 60, kHiddenIcon, course_angle, linear),   // e5 TO arrow
+            sprite(47096, 0, 0, kCx, kCy, kShown, 4, 60, bar_offset, nullptr,
                    course_angle),                                                 // e6 deviation bar
-            icon(44112, 98, 100, kHiddenIcon),                                    // e7 glide-slope scale
-            moving(44128, 98, 84, kShown, nullptr, r.gs_pointer, 0, 0, -1, 11),   // e8 glide-slope pointer
-            icon(44144, 98, 144, kHiddenIcon),                                    // e9 glide-slope flag
-            needle(44160, kCx, kCy, 8, 110, kShown, bug_angle, linear),           // e10 heading needle
-            icon(44176, 159, 141, kShown),                                        // e11 aircraft symbol
-            moving(44192, 57, 26, kShown, nullptr, r.course[0], 0, 0, 0, 10),     // e12 course hundreds
-            moving(44192, 75, 26, kShown, nullptr, r.course[1], 0, 0, 0, 10),     // e13 course tens
-            moving(44192, 93, 26, kShown, nullptr, r.course[2], 0, 0, 0, 10),     // e14 course units
-            icon(44208, 231, 24, kHiddenIcon),                                    // e15 DME 1 label
-            moving(44224, 233, 26, kHiddenIcon, nullptr, r.dme[0], 0, 0, 0, 10),  // e16 DME hundreds
-            moving(44224, 251, 26, kHiddenIcon, nullptr, r.dme[1], 0, 0, 0, 10),  // e17 DME tens
-            moving(44224, 269, 26, kHiddenIcon, nullptr, r.dme[2], 0, 0, 0, 10),  // e18 DME units
-            icon(44240, 237, 52, kHiddenIcon),                                    // e19 DME 2 label
-            icon(44256, 232, 32, kHiddenIcon),                                    // e20 DME flag
-            needle(44272, 52, 246, 21, 21, kShown, course_knob, linear),          // e21 course knob
-            needle(44288, 298, 246, 21, 21, kShown, heading_knob, linear),        // e22 heading knob
-            needle(44304, 52, 246, 21, 21, kHiddenIcon, course_knob, linear),     // e23 course knob, lit
-            needle(44320, 298, 246, 21, 21, kHiddenIcon, heading_knob, linear),   // e24 heading knob, lit
-            icon(44336, 234, 77, kHiddenIcon),                                    // e25 heading flag
-            icon(44352, 271, 89, kHiddenIcon),                                    // e26 GPS annunciator
-            moving(44368, 145, 14, kHiddenIcon, nullptr, bug_hundreds, 0, 0, 0, 10),  // e27 heading hundreds
-            moving(44368, 163, 14, kHiddenIcon, nullptr, bug_tens, 0, 0, 0, 10),      // e28 heading tens
-            moving(44368, 181, 14, kHiddenIcon, nullptr, bug_units, 0, 0, 0, 10))     // e29 heading units
+            icon(47112, 98, 100, kHiddenIcon),                                    // e7 glide-slope scale
+            moving(47128, 98, 84, kShown, nullptr, r.gs_pointer, 0, 0, -1, 11),   // e8 glide-slope pointer
+            icon(47144, 98, 144, kHiddenIcon),                                    // e9 glide-slope flag
+            needle(47160, kCx, kCy, 8, 110, kShown, bug_angle, linear),           // e10 heading needle
+            icon(47176, 159, 141, kShown),                                        // e11 aircraft symbol
+            moving(47192, 57, 26, kShown, nullptr, r.course[0], 0, 0, 0, 10),     // e12 course hundreds
+            moving(47192, 75, 26, kShown, nullptr, r.course[1], 0, 0, 0, 10),     // e13 course tens
+            moving(47192, 93, 26, kShown, nullptr, r.course[2], 0, 0, 0, 10),     // e14 course units
+            icon(47208, 231, 24, kHiddenIcon),                                    // e15 DME 1 label
+            moving(47224, 233, 26, kHiddenIcon, nullptr, r.dme[0], 0, 0, 0, 10),  // e16 DME hundreds
+            moving(47224, 251, 26, kHiddenIcon, nullptr, r.dme[1], 0, 0, 0, 10),  // e17 DME tens
+            moving(47224, 269, 26, kHiddenIcon, nullptr, r.dme[2], 0, 0, 0, 10),  // e18 DME units
+            icon(47240, 237, 52, kHiddenIcon),                                    // e19 DME 2 label
+            icon(47256, 232, 32, kHiddenIcon),                                    // e20 DME flag
+            needle(47272, 52, 246, 21, 21, kShown, course_knob, linear),          // e21 course knob
+            needle(47288, 298, 246, 21, 21, kShown, heading_knob, linear),        // e22 heading knob
+            needle(47304, 52, 246, 21, 21, kHiddenIcon, course_knob, linear),     // e23 course knob, lit
+            needle(47320, 298, 246, 21, 21, kHiddenIcon, heading_knob, linear),   // e24 heading knob, lit
+            icon(47336, 234, 77, kHiddenIcon),                                    // e25 heading flag
+            icon(47352, 271, 89, kHiddenIcon),                                    // e26 GPS annunciator
+            moving(47368, 145, 14, kHiddenIcon, nullptr, bug_hundreds, 0, 0, 0, 10),  // e27 heading hundreds
+            moving(47368, 163, 14, kHiddenIcon, nullptr, bug_tens, 0, 0, 0, 10),      // e28 heading tens
+            moving(47368, 181, 14, kHiddenIcon, nullptr, bug_units, 0, 0, 0, 10))     // e29 heading units
         .mouse(repeat(9, 203, 42, 42, kCursorDown, course_minus_1),
                repeat(51, 203, 42, 42, kCursorUp, course_plus_1),
                repeat(9, 245, 42, 42, kCursorDown, course_minus_10),

@@ -64,17 +64,17 @@ NeedlePoint hundreds_scale[] = {
 
 KESTRANE_GAUGE(alti_old, gauge("kestrane alti_old_jm47", 192, update)
                              .elements(image(42096, 0x4001),  // e0 dial
-                                       moving(44016, 112, 60, kDrumFlags, across, thousands, 0, 1, 0,
+                                       moving(48016, 112, 60, kDrumFlags, across, thousands, 0, 1, 0,
                                               51),                        // e1 thousands
-                                       digit<&inhg[0]>(44032, 75, 134),   // e2 inHg thousands
-                                       digit<&inhg[1]>(44032, 85, 134),   // e3 inHg hundreds
-                                       digit<&inhg[2]>(44032, 95, 134),   // e4 inHg tens
-                                       digit<&inhg[3]>(44032, 105, 134),  // e5 inHg units
-                                       digit<&hpa[0]>(44032, 75, 39),     // e6 hPa thousands
-                                       digit<&hpa[1]>(44032, 85, 39),     // e7 hPa hundreds
-                                       digit<&hpa[2]>(44032, 95, 39),     // e8 hPa tens
-                                       digit<&hpa[3]>(44032, 105, 39),    // e9 hPa units
-                                       needle(44048, 94, 94, 4, 60, kNeedleFlags, hundreds, hundreds_scale, 0,
+                                       digit<&inhg[0]>(48032, 75, 134),   // e2 inHg thousands
+                                       digit<&inhg[1]>(48032, 85, 134),   // e3 inHg hundreds
+                                       digit<&inhg[2]>(48032, 95, 134),   // e4 inHg tens
+                                       digit<&inhg[3]>(48032, 105, 134),  // e5 inHg units
+                                       digit<&hpa[0]>(48032, 75, 39),     // e6 hPa thousands
+                                       digit<&hpa[1]>(48032, 85, 39),     // e7 hPa hundreds
+                                       digit<&hpa[2]>(48032, 95, 39),     // e8 hPa tens
+                                       digit<&hpa[3]>(48032, 105, 39),    // e9 hPa units
+                                       needle(48048, 94, 94, 4, 60, kNeedleFlags, hundreds, hundreds_scale, 0,
                                               74))  // e10 hundreds
                              .mouse(repeat(0, 148, 20, 22, kCursorDown, baro<-1, 739>),
                                     repeat(20, 148, 20, 22, kCursorUp, baro<1, 1053>),

@@ -221,14 +221,14 @@ KESTRANE_GAUGE(
     ias,
     knobs(dial(gauge("kestrane ias_jm47", 206, update),
                {speed_needle, max_needle, bug_1_needle, bug_2_needle},
-               icon(44464, 0, 164, kLightFlags),                                         // e5 preset-1 light
-               icon(44480, 102, 164, kLightFlags),                                       // e6 preset-2 light
-               icon(44496, 0, 0, kLabelFlags),                                           // e7 ground label
-               icon(44512, 0, 0, kLabelFlags),                                           // e8 flight label
-               moving(44528, 137, 43, kDigitFlags, strip_x, lower_units, 0, 10, 0, 10),  // e9 lower units
-               moving(44528, 119, 43, kDigitFlags, strip_x, lower_tens, 0, 10, 0, 10),   // e10 lower tens
-               moving(44528, 101, 43, kDigitFlags, strip_x, hundreds, 0, 10, 0, 10),     // e11 lower hundreds
-               moving(44528, 137, 11, kDigitFlags, strip_x, upper_units, 0, 10, 0, 10),  // e12 upper units
-               moving(44528, 119, 11, kDigitFlags, strip_x, upper_tens, 0, 10, 0, 10),   // e13 upper tens
-               moving(44528, 101, 11, kDigitFlags, strip_x, hundreds, 0, 10, 0, 10)),    // e14 upper hundreds
+               icon(49464, 0, 164, kLightFlags),                                         // e5 preset-1 light
+               icon(49480, 102, 164, kLightFlags),                                       // e6 preset-2 light
+               icon(49496, 0, 0, kLabelFlags),                                           // e7 ground label
+               icon(49512, 0, 0, kLabelFlags),                                           // e8 flight label
+               moving(49528, 137, 43, kDigitFlags, strip_x, lower_units, 0, 10, 0, 10),  // e9 lower units
+               moving(49528, 119, 43, kDigitFlags, strip_x, lower_tens, 0, 10, 0, 10),   // e10 lower tens
+               moving(49528, 101, 43, kDigitFlags, strip_x, hundreds, 0, 10, 0, 10),     // e11 lower hundreds
+               moving(49528, 137, 11, kDigitFlags, strip_x, upper_units, 0, 10, 0, 10),  // e12 upper units
+               moving(49528, 119, 11, kDigitFlags, strip_x, upper_tens, 0, 10, 0, 10),   // e13 upper tens
+               moving(49528, 101, 11, kDigitFlags, strip_x, hundreds, 0, 10, 0, 10)),    // e14 upper hundreds
           click(69, 46, 70, 70, kCursorHand, toggle_display)))

@@ -7,10 +7,10 @@
 namespace kestrane::ias {
 
 inline constexpr u32 kDialBitmap = 42000;
-inline constexpr u32 kSpeedNeedleBitmap = 44400;
-inline constexpr u32 kMaxNeedleBitmap = 44416;
-inline constexpr u32 kBug1Bitmap = 44432;
-inline constexpr u32 kBug2Bitmap = 44448;
+inline constexpr u32 kSpeedNeedleBitmap = 49400;
+inline constexpr u32 kMaxNeedleBitmap = 49416;
+inline constexpr u32 kBug1Bitmap = 49432;
+inline constexpr u32 kBug2Bitmap = 49448;
 inline constexpr u32 kNeedleFlags = 0x4003;
 inline constexpr i32 kPivotX = 103, kPivotY = 101;
 // where each needle bitmap turns about

@@ -33,5 +33,5 @@ void KCALL update(GaugeHeader*, u32 service, std::uintptr_t) {
 
 KESTRANE_GAUGE(mach, gauge("kestrane mach_jm47", 123, update)
                          .elements(image(42160, 0x4001),  // e0 dial
-                                   needle(44544, 93, 90, 4, 66, 0x4003, mach_needle, mach_scale, 0,
+                                   needle(48544, 93, 90, 4, 66, 0x4003, mach_needle, mach_scale, 0,
                                           64)))  // e1 Mach

@@ -124,17 +124,17 @@ KESTRANE_GAUGE(
     montre,
     gauge("kestrane montre_jm47", 256, update)
         .elements(image(42896, 0x4001),               // e0 dial
-                  icon(44352, 94, 243, 0x3),          // e1 fixed image
-                  icon(44368, 25, 217, 0x3),          // e2 fixed image
-                  icon(44384, 207, 193, 0x3),         // e3 set mode off
-                  icon(44400, 207, 193, 0x40000003),  // e4 set mode on
-                  sprite(44416, 12, 12, 0, 0, 0x4003, 116, 116, fixed, fixed, bezel_angle),  // e5 bezel
-                  needle(44432, 128, 171, 2, 14, 0x4003, chrono_minutes,
+                  icon(48352, 94, 243, 0x3),          // e1 fixed image
+                  icon(48368, 25, 217, 0x3),          // e2 fixed image
+                  icon(48384, 207, 193, 0x3),         // e3 set mode off
+                  icon(48400, 207, 193, 0x40000003),  // e4 set mode on
+                  sprite(48416, 12, 12, 0, 0, 0x4003, 116, 116, fixed, fixed, bezel_angle),  // e5 bezel
+                  needle(48432, 128, 171, 2, 14, 0x4003, chrono_minutes,
                          chrono_minute_scale),                                     // e6 chrono minutes
-                  needle(44448, 128, 128, 4, 50, 0x4003, hour_value, hour_scale),  // e7 hours
-                  needle(44464, 128, 128, 4, 80, 0x4003, nullptr, minute_scale, 0,
+                  needle(48448, 128, 128, 4, 50, 0x4003, hour_value, hour_scale),  // e7 hours
+                  needle(48464, 128, 128, 4, 80, 0x4003, nullptr, minute_scale, 0,
                          4),  // e8 minutes, straight from the clock
-                  needle(44480, 128, 128, 2, 80, 0x4003, chrono_seconds, second_scale))  // e9 chrono seconds
+                  needle(48480, 128, 128, 2, 80, 0x4003, chrono_seconds, second_scale))  // e9 chrono seconds
         .mouse(repeat(0, 49, 67, 138, kCursorDown, bezel_down), repeat(189, 49, 67, 138, kCursorUp, bezel_up),
                click(22, 199, 40, 75, kCursorHand, chrono_reset),
                click(108, 228, 40, 75, kCursorHand, chrono_start_stop),

@@ -44,13 +44,13 @@ constexpr auto layout(G g, ValueCallback dh_bug, ValueCallback height) {
     using namespace def;
     return g
         .elements(image(42208, 0x4001),                                               // e0 dial
-                  needle(44128, 105, 88, 4, 12, kNeedleFlags, dh_bug, dh_scale),      // e1 DH bug
-                  needle(44144, 105, 88, 4, 60, kNeedleFlags, height, height_scale),  // e2 height
-                  icon(44160, 111, 33, kHiddenIcon),                                  // e3 OFF flag
-                  icon(44176, 94, 16, 0x3),                                           // e4 fixed image
-                  icon(44192, 24, 148, kHiddenIcon),                                  // e5 DH light
-                  icon(44208, 165, 8, kHiddenIcon),                                   // e6 warm-up
-                  icon(44224, 165, 8, kHiddenIcon))                                   // e7 test
+                  needle(48128, 105, 88, 4, 12, kNeedleFlags, dh_bug, dh_scale),      // e1 DH bug
+                  needle(48144, 105, 88, 4, 60, kNeedleFlags, height, height_scale),  // e2 height
+                  icon(48160, 111, 33, kHiddenIcon),                                  // e3 OFF flag
+                  icon(48176, 94, 16, 0x3),                                           // e4 fixed image
+                  icon(48192, 24, 148, kHiddenIcon),                                  // e5 DH light
+                  icon(48208, 165, 8, kHiddenIcon),                                   // e6 warm-up
+                  icon(48224, 165, 8, kHiddenIcon))                                   // e7 test
         .mouse(click(141, 0, 24, 39, kCursorDown, switch_off), click(165, 0, 21, 39, kCursorHand, test_1),
                click(186, 0, 24, 39, kCursorUp, switch_on), repeat(0, 140, 24, 39, kCursorDown, dh_down),
                click(24, 140, 21, 39, kCursorHand, dh_test), repeat(45, 140, 24, 39, kCursorUp, dh_up),

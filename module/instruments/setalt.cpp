@@ -48,17 +48,17 @@ u32 KCALL up(PixPoint*, u32) {
 KESTRANE_GAUGE(setalt, gauge("kestrane setalt_jm47", 178, update)
                            .tip("altitude alert setting window")
                            .elements(image(43376, 0x4001),                 // e0 background
-                                     icon(44064, 0, 0, 0x40000003),        // e1 lit background
-                                     icon(44080, 70, 41, 0x40000003),      // e2 power flag
-                                     digit<&selected[0]>(44096, 92, 41),   // e3 ten-thousands
-                                     digit<&selected[1]>(44096, 102, 41),  // e4 thousands
-                                     digit<&selected[2]>(44096, 112, 41),  // e5 hundreds
-                                     digit<&selected[3]>(44096, 122, 41),  // e6 tens
-                                     digit<&selected[4]>(44096, 132, 41),  // e7 units
-                                     digit<&inhg[0]>(44112, 30, 36),       // e8 inHg thousands
-                                     digit<&inhg[1]>(44112, 38, 36),       // e9 inHg hundreds
-                                     digit<&inhg[2]>(44112, 46, 34),       // e10 inHg tens
-                                     digit<&inhg[3]>(44112, 54, 34))       // e11 inHg units
+                                     icon(48064, 0, 0, 0x40000003),        // e1 lit background
+                                     icon(48080, 70, 41, 0x40000003),      // e2 power flag
+                                     digit<&selected[0]>(48096, 92, 41),   // e3 ten-thousands
+                                     digit<&selected[1]>(48096, 102, 41),  // e4 thousands
+                                     digit<&selected[2]>(48096, 112, 41),  // e5 hundreds
+                                     digit<&selected[3]>(48096, 122, 41),  // e6 tens
+                                     digit<&selected[4]>(48096, 132, 41),  // e7 units
+                                     digit<&inhg[0]>(48112, 30, 36),       // e8 inHg thousands
+                                     digit<&inhg[1]>(48112, 38, 36),       // e9 inHg hundreds
+                                     digit<&inhg[2]>(48112, 46, 34),       // e10 inHg tens
+                                     digit<&inhg[3]>(48112, 54, 34))       // e11 inHg units
                            .mouse(repeat(116, 38, 31, 25, kCursorDown, down<10>),
                                   repeat(147, 38, 31, 25, kCursorUp, up<10>),
                                   repeat(116, 63, 31, 25, kCursorDown, down<100>),

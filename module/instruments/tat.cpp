@@ -38,6 +38,6 @@ NeedlePoint scale[] = {{41, 139, -70, 0}, {24, 114, -60, 0}, {24, 66, -40, 0},  
 KESTRANE_GAUGE(tat,
                gauge("kestrane tat_jm47", 181, update)
                    .elements(image(42816, 0x4001),                                           // e0 dial
-                             needle(44304, 90, 90, 4, 60, 0x4003, temp_needle, scale),       // e1 needle
-                             icon(44320, 0, 0, 0x40000003),                                  // e2 lit dial
-                             needle(44336, 90, 90, 4, 60, 0x40004003, temp_needle, scale)))  // e3 lit needle
+                             needle(48304, 90, 90, 4, 60, 0x4003, temp_needle, scale),       // e1 needle
+                             icon(48320, 0, 0, 0x40000003),                                  // e2 lit dial
+                             needle(48336, 90, 90, 4, 60, 0x40004003, temp_needle, scale)))  // e3 lit needle

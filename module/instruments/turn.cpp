@@ -56,7 +56,7 @@ constexpr def::ElementDecl failing(def::ElementDecl s) {
 KESTRANE_GAUGE(turn,
                gauge("kestrane turn_jm47", 181, update)
                    .elements(failing(image(42176, 0x4001)),       // e0 dial
-                             failing(icon(44256, 125, 55, 0x3)),  // e1 flag
-                             failing(needle(44272, 90, 132, 4, 60, 0x4003, rate_needle, scale, 0,
+                             failing(icon(48256, 125, 55, 0x3)),  // e1 flag
+                             failing(needle(48272, 90, 132, 4, 60, 0x4003, rate_needle, scale, 0,
                                             70)),                                                // e2 needle
-                             slider(44288, 80, 123, 0x4003, 69, 69, 1.0, 1.0, ball_x, ball_y)))  // e3 ball
+                             slider(48288, 80, 123, 0x4003, 69, 69, 1.0, 1.0, ball_x, ball_y)))  // e3 ball

@@ -28,4 +28,4 @@ NeedlePoint scale[] = {{75, 158, -6000, 0}, {57, 152, -5000, 0}, {41, 139, -4000
 KESTRANE_GAUGE(vsi,
                gauge("kestrane vsi_jm47", 181, update)
                    .elements(image(42144, 0x4001),                                               // e0 dial
-                             needle(44240, 90, 90, 4, 60, 0x4003, needle_value, scale, 0, 65)))  // e1 needle
+                             needle(48240, 90, 90, 4, 60, 0x4003, needle_value, scale, 0, 65)))  // e1 needle

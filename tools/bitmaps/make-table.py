@@ -28,7 +28,7 @@ art_pat = re.compile(r'\bart\((\d+)\s*,\s*(\d+)\)|\bart\((\d+)\).*//\s*e[\d.]+\s
 art_cap = re.compile(r'//\s*e[\d.]+\s*(.*)$')
 for root, _, files in os.walk(src):
     for name in sorted(files):
-        if not name.endswith('.cpp'):
+        if not name.endswith(('.cpp', '.h')):
             continue
         for line in open(os.path.join(root, name)):
             a, c = art_pat.search(line), art_cap.search(line)

@@ -178,7 +178,7 @@ KESTRANE_GAUGE(anticelead_mid, gauge("kestrane anticelead_mid_jm47", 219, middle
                                              icon(12864, 25, 152, 0x40000003),   // e8 left hot
                                              icon(12880, 176, 152, 0x40000003),  // e9 right not hot
                                              icon(12864, 176, 152, 0x40000003),  // e10 right hot
-                                             needle(13360, 112, 152, 3, 28, kNeedleFlags, le_temp_needle,
+                                             needle(13360, 112, 152, 4, 4, kNeedleFlags, le_temp_needle,
                                                     le_temp_scale),      // e11 leading-edge temperature
                                              icon(13936, 0, 0, 0x4001))  // e12 dial cover
                                    .mouse(click(15, 103, 50, 29, kCursorUp, wing_sw<ac.ice_wing_sw_lh, 1>),
@@ -190,9 +190,9 @@ KESTRANE_GAUGE(anticelead_mid, gauge("kestrane anticelead_mid_jm47", 219, middle
 
 KESTRANE_GAUGE(anticelead_up, gauge("kestrane anticelead_up_jm47", 226, upper_update)
                                   .elements(image(41936, 0x4001),  // e0 background
-                                            needle(13360, 61, 120, 3, 28, kNeedleFlags, duct_needle_lh,
+                                            needle(13360, 61, 120, 4, 4, kNeedleFlags, duct_needle_lh,
                                                    duct_scale_lh),  // e1 left duct
-                                            needle(13360, 163, 120, 3, 28, kNeedleFlags, duct_needle_rh,
+                                            needle(13360, 163, 120, 4, 4, kNeedleFlags, duct_needle_rh,
                                                    duct_scale_rh),       // e2 right duct
                                             icon(13920, 0, 0, 0x4001),   // e3 dial cover
                                             icon(13920, 0, 0, 0x4001)))  // e4 dial cover

@@ -136,7 +136,8 @@ TEST_F(Bitmaps, ASharedImageIsUsedTheSameWayByEveryGauge) {
             if (added || it->second.gauge == use.gauge)
                 return;
             ++shared;
-            EXPECT_TRUE(it->second.kind == use.kind && it->second.ref_x == use.ref_x && it->second.ref_y == use.ref_y)
+            EXPECT_TRUE(it->second.kind == use.kind && it->second.ref_x == use.ref_x &&
+                        it->second.ref_y == use.ref_y)
                 << "bitmap " << e->bitmap << ": " << it->second.gauge << " and " << use.gauge << " e" << label
                 << " use it differently";
         });

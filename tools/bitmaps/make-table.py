@@ -30,8 +30,15 @@ for root, _, files in os.walk(src):
     for name in sorted(files):
         if not name.endswith(('.cpp', '.h')):
             continue
+        pending = None  # a bitmap whose declaration goes on to the next line
         for line in open(os.path.join(root, name)):
             a, c = art_pat.search(line), art_cap.search(line)
+            if pending and c and not re.search(r'\(\s*\d{3,5}\s*,', line):
+                captions.setdefault(pending, c.group(1).strip().replace('\t', ' '))
+                pending = None
+                continue
+            d = re.search(r'\b(?:icon|needle|sprite|moving|slider|image)\(\s*(\d{3,5})\s*,', line)
+            pending = d.group(1) if d and not c else None
             if a and c:
                 bid = 26000 + 16 * (int(a.group(1)) * 8 + int(a.group(2))) if a.group(1) else 44000 + 16 * int(a.group(3))
                 captions.setdefault(str(bid), c.group(1).strip().replace('\t', ' '))
@@ -136,6 +143,10 @@ for e in elems:
         c = cap.lower()
         role = 'sphere' if any(k in c for k in ('att', 'horiz', 'sphere', 'ball', 'pitch')) else 'card'
         w = h = max(64, 2 * rx, 2 * ry)
+        tc = [int(v) for v in extra.split(',')] if extra else []
+        if re.search(r'\bbar\b', c) and len(tc) == 2:
+            # turns about its middle: the texture centre gives its size
+            role, w, h = 'bar', max(2, 2 * tc[0]), max(8, 2 * tc[1])
         params = '%d,%d' % (rx, ry)
     else:
         role = icon_role(cap) if kind in (0, 4) else 'pointer'

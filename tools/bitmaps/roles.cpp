@@ -374,6 +374,14 @@ void draw_pointer(cairo_t* cr, const Bitmap& b) {
     cairo_fill(cr);
 }
 
+// A deviation bar: a white bar down the middle, the rest transparent.
+void draw_bar(cairo_t* cr, const Bitmap& b) {
+    const double w = std::max(2.0, b.w / 2.0);
+    cairo_set_source_rgb(cr, 1, 1, 1);
+    cairo_rectangle(cr, (b.w - w) / 2.0, 1, w, b.h - 2);
+    cairo_fill(cr);
+}
+
 void draw(cairo_t* cr, const Bitmap& b) {
     cairo_set_source_rgb(cr, 0, 0, 0);
     cairo_paint(cr);
@@ -400,6 +408,8 @@ void draw(cairo_t* cr, const Bitmap& b) {
         draw_area(cr, b);
     else if (r == "pointer")
         draw_pointer(cr, b);
+    else if (r == "bar")
+        draw_bar(cr, b);
     else
         draw_image(cr, b, r == "night");
 }

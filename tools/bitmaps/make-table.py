@@ -81,6 +81,15 @@ WARNINGS = {
     'warn_elec_jm47': ('ELEC', 'amber'),
 }
 SPHERES = ('fdadi_jm47', 'horiz_sec_jm47', 'fdadimini_jm47')
+# The overview map: what each region and button opens, written on it.
+OVERVIEW_LABELS = {
+    (428, 71, 111, 200): 'ELEC', (349, 71, 79, 105): 'HYD SERVO', (353, 271, 94, 59): 'HYD SERVO',
+    (214, 361, 93, 36): 'HYD SERVO', (208, 251, 45, 79): 'PED', (253, 294, 33, 36): 'PED',
+    (286, 251, 21, 79): 'PED', (253, 251, 33, 43): 'PED', (307, 251, 46, 79): 'FUEL',
+    (100, 251, 108, 79): 'TADG BATT', (184, 129, 165, 47): 'UPPER 2', (184, 71, 165, 58): 'UPPER 3',
+    (286, 220, 67, 31): 'GEAR', (162, 397, 55, 53): 'CLOCK', (217, 397, 55, 53): 'COMPASS',
+    (272, 397, 55, 53): 'FAIL', (327, 397, 55, 53): 'GPS', (0, 0, 52, 53): 'CLOSE',
+}
 
 rows, seen = [], set()
 dials = {}  # gauge -> needle marks
@@ -120,7 +129,9 @@ for e in elems:
             params = ';'.join('%d,%d:%s' % (px, py, ex) for px, py, ex in dials[gi])
         else:
             role = 'panel'
-            params = ' '.join('%d,%d,%d,%d' % b for b in gb)
+            labels = OVERVIEW_LABELS if gname == 'panel_overview' else {}
+            params = ' '.join('%d,%d,%d,%d' % b + (',' + labels[b].replace(' ', '_') if b in labels else '')
+                              for b in gb)
         if 'night' in cap.lower():
             role += '-night'
         h = max(h, 16)

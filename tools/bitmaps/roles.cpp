@@ -118,12 +118,19 @@ void draw_panel(cairo_t* cr, const Bitmap& b, bool night) {
     cairo_set_line_width(cr, 1);
     for (const std::string& box : split(b.params, ' ')) {
         std::vector<std::string> v = split(box, ',');
-        if (v.size() != 4)
+        if (v.size() != 4 && v.size() != 5)
             continue;
+        const double x = std::atoi(v[0].c_str()), y = std::atoi(v[1].c_str());
+        const double w = std::atoi(v[2].c_str()), h = std::atoi(v[3].c_str());
         set(cr, ink, 0.55);
-        cairo_rectangle(cr, std::atoi(v[0].c_str()) + 1.5, std::atoi(v[1].c_str()) + 1.5,
-                        std::atoi(v[2].c_str()) - 3, std::atoi(v[3].c_str()) - 3);
+        cairo_rectangle(cr, x + 1.5, y + 1.5, w - 3, h - 3);
         cairo_stroke(cr);
+        if (v.size() == 5) {  // what the box opens, written in it ('_' for spaces)
+            std::string words = v[4];
+            std::replace(words.begin(), words.end(), '_', ' ');
+            set(cr, ink, 0.8);
+            text(cr, words, x + w / 2.0, y + h / 2.0, std::min(11.0, h * 0.4), w - 4, true);
+        }
     }
     set(cr, ink);
     std::string label = b.caption;

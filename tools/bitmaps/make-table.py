@@ -149,6 +149,12 @@ for e in elems:
         span = int(max(mn[1] - mn[0], mn[3] - mn[2]))
         role = 'drum' if mn[3] - mn[2] >= mn[1] - mn[0] else 'drum-h'
         w, h = (14, span + 22) if role == 'drum' else (span + 16, 20)
+        c = cap.lower()
+        if 'lever' in c and span >= 40:
+            # a part carried along its travel, not a strip behind a window:
+            # the bitmap is the part alone, shorter than the travel
+            role = 'lever'
+            w, h = (45, 18) if 'knob' in c else (22, 10) if 'reverse' in c else (14, 40)
         params = extra
     elif kind == 6:
         c = cap.lower()

@@ -1,6 +1,7 @@
 #include "roles.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <sstream>
@@ -381,6 +382,29 @@ void draw_pointer(cairo_t* cr, const Bitmap& b) {
     cairo_fill(cr);
 }
 
+// A lever carried along its travel: the knob across the track, the reverse
+// lever in red, otherwise the shaft.
+void draw_lever(cairo_t* cr, const Bitmap& b) {
+    std::string c = b.caption;
+    std::transform(c.begin(), c.end(), c.begin(), [](unsigned char ch) { return std::tolower(ch); });
+    if (c.find("knob") != std::string::npos) {
+        set(cr, {0.12, 0.12, 0.13});
+        cairo_rectangle(cr, 1, 1, b.w - 2, b.h - 2);
+        cairo_fill(cr);
+        set(cr, kEngrave);
+        cairo_rectangle(cr, 3, b.h / 2.0 - 1, b.w - 6, 2);
+        cairo_fill(cr);
+    } else if (c.find("reverse") != std::string::npos) {
+        set(cr, {0.70, 0.12, 0.10});
+        cairo_rectangle(cr, 1, 1, b.w - 2, b.h - 2);
+        cairo_fill(cr);
+    } else {
+        set(cr, {0.75, 0.76, 0.78});
+        cairo_rectangle(cr, 3, 0, b.w - 6, b.h);
+        cairo_fill(cr);
+    }
+}
+
 // A deviation bar: a white bar down the middle, the rest transparent.
 void draw_bar(cairo_t* cr, const Bitmap& b) {
     const double w = std::max(2.0, b.w / 2.0);
@@ -417,6 +441,8 @@ void draw(cairo_t* cr, const Bitmap& b) {
         draw_pointer(cr, b);
     else if (r == "bar")
         draw_bar(cr, b);
+    else if (r == "lever")
+        draw_lever(cr, b);
     else
         draw_image(cr, b, r == "night");
 }

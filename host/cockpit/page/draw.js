@@ -126,7 +126,7 @@ function drawElement(cx, bitmaps, el, st) {
     }
     case KIND.MOVING: {
       // A strip scrolled by its value through a window at the element's place:
-      // the value's range is the strip's travel.
+      // the value's range is the strip's travel. A lever moves whole.
       const img = bitmaps.get(el.b, keyed);
       if (!img) break;
       const [minX, maxX, minY, maxY] = el.mn;
@@ -134,6 +134,11 @@ function drawElement(cx, bitmaps, el, st) {
       const clamp = (x, a, b) => Math.min(Math.max(x, Math.min(a, b)), Math.max(a, b));
       const dx = clamp(num(v[0]), minX, maxX) - minX;
       const dy = clamp(num(v[1]), minY, maxY) - minY;
+      // a bitmap shorter than its travel is a part carried along it (a lever)
+      if (vertical ? img.height < maxY - minY : img.width < maxX - minX) {
+        cx.drawImage(img, el.x + dx, el.y + dy);
+        break;
+      }
       cx.save();
       cx.beginPath();
       if (vertical) cx.rect(el.x, el.y, img.width, Math.min(20, img.height));

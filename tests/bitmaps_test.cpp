@@ -4,6 +4,8 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
@@ -11,6 +13,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "host/host.h"
 
@@ -143,6 +146,38 @@ TEST_F(Bitmaps, ASharedImageIsUsedTheSameWayByEveryGauge) {
         });
     }
     EXPECT_GT(shared, 50);  // the full instruments and their small copies, twin panels
+}
+
+// A needle's value table gives points of the dial in gauge pixels, so the
+// scale wraps around the needle's pivot. A table drawn in a frame of its own
+// sees its points from far off, under a narrow angle, and its needle points
+// off the dial (the brake gauge once shared one table between six pivots).
+TEST_F(Bitmaps, NeedleScalesWrapAroundTheirPivots) {
+    int scales = 0;
+    for (int i = 0; i < host.gauge_count(); ++i) {
+        GaugeHeader* g = host.gauge(i);
+        Host::for_each_element(g, [&](Element* e, const std::string& label) {
+            if (e->kind != kNeedle || e->u.needle.table == nullptr || e->u.needle.table_count < 2)
+                return;
+            std::vector<double> angles;
+            bool all_zero = true;
+            for (u32 k = 0; k < e->u.needle.table_count; ++k) {
+                const NeedlePoint& p = e->u.needle.table[k];
+                all_zero = all_zero && p.x == 0 && p.y == 0;
+                angles.push_back(std::atan2(p.y - e->y, p.x - e->x) * 180.0 / M_PI);
+            }
+            if (all_zero)
+                return;  // the value is the angle itself (compass cards and their needles)
+            std::sort(angles.begin(), angles.end());
+            double widest_gap = 360.0 + angles.front() - angles.back();
+            for (std::size_t k = 1; k < angles.size(); ++k)
+                widest_gap = std::max(widest_gap, angles[k] - angles[k - 1]);
+            ++scales;
+            EXPECT_GE(360.0 - widest_gap, 65.0)
+                << g->name << " e" << label << ": the scale is not around the pivot";
+        });
+    }
+    EXPECT_GT(scales, 100);
 }
 
 struct Pixel {

@@ -154,9 +154,10 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
         bleed_cycle(g, S);
 }
 
+// The dials' scales, about their needles' pivots (85, 230) and (173, 314).
 NeedlePoint press_scale[] = {
-    {30, 150, 0, 0}, {10, 90, 100, 0}, {60, 40, 200, 0}, {120, 60, 300, 0}, {140, 120, 400, 0}};
-NeedlePoint temp_scale[] = {{20, 60, 0, 0}, {40, 20, 100, 0}, {80, 20, 200, 0}, {100, 60, 250, 0}};
+    {40, 280, 0, 0}, {20, 220, 100, 0}, {70, 170, 200, 0}, {130, 190, 300, 0}, {150, 250, 400, 0}};
+NeedlePoint temp_scale[] = {{133, 312, 0, 0}, {153, 272, 100, 0}, {193, 272, 200, 0}, {213, 312, 250, 0}};
 // The panels mirror each other in their push-button lights, bleed switch and
 // mouse boxes; the indicators and needles stand in the same places.
 struct BleedLayout {

@@ -25,15 +25,17 @@ f64 KCALL knob(Element*) {
     return clamp_back(Sel, 0.0, kSelectorMax);
 }
 
-NeedlePoint knob_scale[] = {{10, 40, 0, 0}, {40, 5, 40, 0}, {70, 40, 80, 0}};
+// Each knob's scale: a half circle about its pivot.
+NeedlePoint ckpt_scale[] = {{33, 47, 0, 0}, {63, 12, 40, 0}, {93, 47, 80, 0}};
+NeedlePoint cabin_scale[] = {{127, 47, 0, 0}, {157, 12, 40, 0}, {187, 47, 80, 0}};
 }  // namespace
 
 // clang-format off
 KESTRANE_GAUGE(aircondtemp_sel,
     gauge("kestrane aircondtemp_sel_jm47", 215, nullptr)
         .elements(image(13328, 0x4001),                                                          // e0
-                  needle(13344, 63, 47, 4, 4, 0x4003, knob<ac.air_cond_sel_ckpt>, knob_scale),    // e1 cockpit
-                  needle(13344, 157, 47, 4, 4, 0x4003, knob<ac.air_cond_sel_cabin>, knob_scale))  // e2 cabin
+                  needle(13344, 63, 47, 4, 4, 0x4003, knob<ac.air_cond_sel_ckpt>, ckpt_scale),    // e1 cockpit
+                  needle(13344, 157, 47, 4, 4, 0x4003, knob<ac.air_cond_sel_cabin>, cabin_scale))  // e2 cabin
         .mouse(repeat(18, 7, 45, 80, kCursorDown, colder<ac.air_cond_sel_ckpt>),
                repeat(63, 7, 45, 80, kCursorUp, warmer<ac.air_cond_sel_ckpt>),
                repeat(113, 7, 45, 80, kCursorDown, colder<ac.air_cond_sel_cabin>),

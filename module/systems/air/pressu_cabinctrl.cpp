@@ -124,8 +124,10 @@ f64 KCALL rate_sel_needle(Element*) {
     return clamp_back(ac.air_cabin_rate_sel, 50.0, 2000.0);
 }
 
-NeedlePoint alt_sel_scale[] = {{10, 60, -1000, 0}, {30, 10, 2000, 0}, {90, 10, 6000, 0}, {110, 60, 10000, 0}};
-NeedlePoint rate_sel_scale[] = {{10, 60, 50, 0}, {60, 10, 1000, 0}, {110, 60, 2000, 0}};
+// The selectors' scales, about their pivots (158, 100) and (46, 167).
+NeedlePoint alt_sel_scale[] = {
+    {108, 110, -1000, 0}, {128, 60, 2000, 0}, {188, 60, 6000, 0}, {208, 110, 10000, 0}};
+NeedlePoint rate_sel_scale[] = {{6, 167, 50, 0}, {46, 127, 1000, 0}, {86, 167, 2000, 0}};
 }  // namespace
 
 // clang-format off

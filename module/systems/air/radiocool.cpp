@@ -73,7 +73,8 @@ f64 KCALL selector_needle(Element*) {
     return clamp_back(selector, 0.0, 3.0);
 }
 
-NeedlePoint selector_scale[] = {{40, 30, 0, 0}, {60, 10, 1, 0}, {90, 10, 2, 0}, {110, 30, 3, 0}};
+// About the selector's pivot (76, 188).
+NeedlePoint selector_scale[] = {{41, 173, 0, 0}, {61, 153, 1, 0}, {91, 153, 2, 0}, {111, 173, 3, 0}};
 }  // namespace
 
 // clang-format off

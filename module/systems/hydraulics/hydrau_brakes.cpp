@@ -48,8 +48,13 @@ f64 KCALL red_right(Element*) {
     return clamp_back(red.right, 0, kBrakeTop);
 }
 
-NeedlePoint circuit_scale[] = {{0, 40, 0, 0}, {40, 0, 2000, 0}, {80, 40, 4000, 0}};
-NeedlePoint brake_scale[] = {{0, 40, 0, 0}, {40, 0, 1250, 0}, {80, 40, 2500, 0}};
+// Each dial's scale: a half circle of 40 pixels above its needle's pivot.
+NeedlePoint green_left_scale[] = {{24, 150, 0, 0}, {64, 110, 1250, 0}, {104, 150, 2500, 0}};
+NeedlePoint green_right_scale[] = {{160, 150, 0, 0}, {200, 110, 1250, 0}, {240, 150, 2500, 0}};
+NeedlePoint green_circuit_scale[] = {{92, 80, 0, 0}, {132, 40, 2000, 0}, {172, 80, 4000, 0}};
+NeedlePoint red_left_scale[] = {{24, 330, 0, 0}, {64, 290, 1250, 0}, {104, 330, 2500, 0}};
+NeedlePoint red_right_scale[] = {{160, 330, 0, 0}, {200, 290, 1250, 0}, {240, 330, 2500, 0}};
+NeedlePoint red_circuit_scale[] = {{92, 260, 0, 0}, {132, 220, 2000, 0}, {172, 260, 4000, 0}};
 
 void KCALL update(GaugeHeader*, u32 service, std::uintptr_t) {
     if (service != kServiceUpdate)
@@ -101,10 +106,10 @@ void KCALL update(GaugeHeader*, u32 service, std::uintptr_t) {
 KESTRANE_GAUGE(hydrau_brakes,
     gauge("kestrane hydrau_brakes_jm47", 265, update)
         .elements(image(40800, 0x4001),                                                   // e0 background
-                  needle(46416, 64, 150, 4, 40, 0x4003, green_left, brake_scale),         // e1 green left brake
-                  needle(46416, 200, 150, 4, 40, 0x4003, green_right, brake_scale),       // e2 green right brake
-                  needle(46432, 132, 80, 4, 40, 0x4003, green_circuit, circuit_scale),    // e3 green circuit
-                  needle(46448, 64, 330, 4, 40, 0x4003, red_left, brake_scale),           // e4 red left brake
-                  needle(46448, 200, 330, 4, 40, 0x4003, red_right, brake_scale),         // e5 red right brake
-                  needle(46464, 132, 260, 4, 40, 0x4003, red_circuit, circuit_scale)))    // e6 red circuit
+                  needle(46416, 64, 150, 4, 40, 0x4003, green_left, green_left_scale),         // e1 green left brake
+                  needle(46416, 200, 150, 4, 40, 0x4003, green_right, green_right_scale),       // e2 green right brake
+                  needle(46432, 132, 80, 4, 40, 0x4003, green_circuit, green_circuit_scale),    // e3 green circuit
+                  needle(46448, 64, 330, 4, 40, 0x4003, red_left, red_left_scale),           // e4 red left brake
+                  needle(46448, 200, 330, 4, 40, 0x4003, red_right, red_right_scale),         // e5 red right brake
+                  needle(46464, 132, 260, 4, 40, 0x4003, red_circuit, red_circuit_scale)))    // e6 red circuit
 // clang-format on

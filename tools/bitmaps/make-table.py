@@ -175,6 +175,8 @@ for e in elems:
         if w == 0:
             w, h = 24, 20
         w, h = max(8, min(w, max(8, gw - x))), max(8, h)
+    if role == 'image' and cap in ('dial cover', 'overlay', 'fixed image', 'always shown', 'always hidden'):
+        role = 'overlay'  # glass and fixtures over the face: nothing of their own to draw
     if gname in WARNINGS and role in ('panel', 'image'):
         cap, role = WARNINGS[gname][0], 'lamp'
     if gname in SPHERES and role == 'card':

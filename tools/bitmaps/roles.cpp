@@ -443,6 +443,8 @@ void draw(cairo_t* cr, const Bitmap& b) {
         draw_bar(cr, b);
     else if (r == "lever")
         draw_lever(cr, b);
+    else if (r == "overlay")
+        return;  // all transparent
     else
         draw_image(cr, b, r == "night");
 }

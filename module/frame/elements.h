@@ -8,18 +8,22 @@
 
 namespace kestrane {
 
-// What a declared gauge's `elements` points at: the host's one-entry list,
-// then the chain by number, filled when the gauge is linked, so that eN is
-// one look-up instead of a walk down N first children. The chain's elements
-// themselves follow the index, e0 first.
-struct ChainIndex {
-    Element* root[2];  // the background, then null
-    Element* const* chain;
-    std::size_t count;  // not an int: a flag store cannot change it
+// What a declared gauge's `elements` points at: the host's one-entry list
+// and the chain's length, filled when the gauge is linked. The chain's
+// elements themselves follow the index, e0 first, so that eN is one offset
+// instead of a walk down N first children.
+struct alignas(Element) ChainIndex {  // aligned so that e0 follows it at once
+    Element* root[2];                 // the background, then null
+    std::size_t count;                // not an int: a flag store cannot change it
 };
 
 inline const ChainIndex* chain_index(GaugeHeader* gauge) {
     return reinterpret_cast<const ChainIndex*>(gauge->elements);
+}
+
+// eN of a linked gauge, n within its chain (GaugeParts).
+inline Element* chain_element(const ChainIndex* index, int n) {
+    return const_cast<Element*>(reinterpret_cast<const Element*>(index + 1)) + n;
 }
 
 inline Element* element(GaugeHeader* gauge, int n) {
@@ -28,7 +32,7 @@ inline Element* element(GaugeHeader* gauge, int n) {
     if (n <= 0)
         return gauge->elements[0];
     const ChainIndex* index = chain_index(gauge);
-    return static_cast<std::size_t>(n) < index->count ? index->chain[n] : nullptr;
+    return static_cast<std::size_t>(n) < index->count ? chain_element(index, n) : nullptr;
 }
 
 // Shows or hides image eN of a gauge's own callback: `gauge` is the
@@ -39,8 +43,7 @@ inline void show(GaugeHeader* gauge, int n, bool shown) {
     const ChainIndex* index = chain_index(gauge);
     if (static_cast<std::size_t>(n) >= index->count)
         return;
-    // the chain's elements lie right after the index, in order (GaugeParts)
-    Element* e = const_cast<Element*>(reinterpret_cast<const Element*>(index + 1)) + n;
+    Element* e = chain_element(index, n);
     if (shown)
         e->flags &= ~kHidden;
     else

@@ -227,7 +227,6 @@ template <int NE, int NM, int NS>
 struct GaugeParts {
     ChainIndex head;
     Element elems[NE];
-    Element* chain[NE];  // chain elements by number
     Element* links[2 * NE];
     MouseRect mouse[NM + 4];
     char text[NS > 0 ? NS : 1][kMaxText + 1];
@@ -243,7 +242,6 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeDecl<NE, NM>& decl, GaugeHeader
     GaugeParts<NE, NM, NS> p{};
     p.head.root[0] = &self->elems[0];
     p.head.root[1] = nullptr;
-    p.head.chain = self->chain;
     int chain_next[NE];  // chain index -> element index of the next chain element
     int chain_of[NE];    // element index -> chain index, or -1 for branches
     int n_chain = 0;
@@ -266,8 +264,6 @@ constexpr GaugeParts<NE, NM, NS> link(const GaugeDecl<NE, NM>& decl, GaugeHeader
             slot_of[i] = n_chain + n_branch++;
     for (int c = 0; c + 1 < n_chain; ++c)
         chain_next[chain_elem[c]] = chain_elem[c + 1];
-    for (int c = 0; c < n_chain; ++c)
-        p.chain[c] = &self->elems[c];
     p.head.count = static_cast<std::size_t>(n_chain);
     int link_at = 0;
     int string_at = 0;

@@ -1,7 +1,6 @@
 #include "roles.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <sstream>
@@ -385,16 +384,14 @@ void draw_pointer(cairo_t* cr, const Bitmap& b) {
 // A lever carried along its travel: the knob across the track, the reverse
 // lever in red, otherwise the shaft.
 void draw_lever(cairo_t* cr, const Bitmap& b) {
-    std::string c = b.caption;
-    std::transform(c.begin(), c.end(), c.begin(), [](unsigned char ch) { return std::tolower(ch); });
-    if (c.find("knob") != std::string::npos) {
+    if (has(b.caption, "knob")) {
         set(cr, {0.12, 0.12, 0.13});
         cairo_rectangle(cr, 1, 1, b.w - 2, b.h - 2);
         cairo_fill(cr);
         set(cr, kEngrave);
         cairo_rectangle(cr, 3, b.h / 2.0 - 1, b.w - 6, 2);
         cairo_fill(cr);
-    } else if (c.find("reverse") != std::string::npos) {
+    } else if (has(b.caption, "reverse")) {
         set(cr, {0.70, 0.12, 0.10});
         cairo_rectangle(cr, 1, 1, b.w - 2, b.h - 2);
         cairo_fill(cr);

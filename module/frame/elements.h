@@ -35,14 +35,31 @@ inline Element* element(GaugeHeader* gauge, int n) {
     return static_cast<std::size_t>(n) < index->count ? chain_element(index, n) : nullptr;
 }
 
+#if defined(KESTRANE_CHECKED_CHAIN)
+// Checked builds stop at once on an image number outside the gauge's chain:
+// it names the gauge and the number (frame/elements.cpp).
+[[noreturn]] void chain_fault(GaugeHeader* gauge, int n);
+#endif
+
 // Shows or hides image eN of a gauge's own callback: `gauge` is the
-// callback's argument (never null, its index linked at load); a number
-// outside the chain is ignored. The hot path of every cycle: one bounds check
-// and the flag.
+// callback's argument (never null, its index linked at load). The hot path of
+// every cycle: the flag, and a bounds check only where the number is computed
+// at run time (outside the chain: ignored). A number the compiler knows is
+// part of the code, the same on every run: checked builds (the sanitizer
+// build, which runs every scenario and the storm) stop on one outside the
+// chain, so release builds take it as it is.
 inline void show(GaugeHeader* gauge, int n, bool shown) {
     const ChainIndex* index = chain_index(gauge);
+#if defined(KESTRANE_CHECKED_CHAIN)
+    if (static_cast<std::size_t>(n) >= index->count)
+        chain_fault(gauge, n);
+#elif defined(__GNUC__)
+    if (!(__builtin_constant_p(n) && n >= 0) && static_cast<std::size_t>(n) >= index->count)
+        return;
+#else
     if (static_cast<std::size_t>(n) >= index->count)
         return;
+#endif
     Element* e = chain_element(index, n);
     if (shown)
         e->flags &= ~kHidden;

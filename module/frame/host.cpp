@@ -4,7 +4,7 @@ namespace kestrane::host {
 
 u32 read_bcd(ModuleVar& var) {
     const HostServices* s = services();
-    if (s == nullptr || s->lookup_var == nullptr)
+    if (s == nullptr)
         return 0;
     s->lookup_var(&var);
     return var.value.bcd;
@@ -12,27 +12,27 @@ u32 read_bcd(ModuleVar& var) {
 
 void send_event(u32 event, u32 value) {
     const HostServices* s = services();
-    if (s != nullptr && s->trigger_key_event != nullptr)
+    if (s != nullptr)
         s->trigger_key_event(event, value);
 }
 
 u32 window_toggle(u32 ident) {
     const HostServices* s = services();
-    if (s == nullptr || s->panel_window_toggle == nullptr)
+    if (s == nullptr)
         return 0;
     return s->panel_window_toggle(ident);
 }
 
 f64 named_get(const char* name) {
     const HostServices* s = services();
-    if (s == nullptr || s->register_named_variable == nullptr || s->get_named_variable_value == nullptr)
+    if (s == nullptr)
         return 0.0;
     return s->get_named_variable_value(s->register_named_variable(name));
 }
 
 void named_set(const char* name, f64 value) {
     const HostServices* s = services();
-    if (s == nullptr || s->register_named_variable == nullptr || s->set_named_variable_value == nullptr)
+    if (s == nullptr)
         return;
     s->set_named_variable_value(s->register_named_variable(name), value);
 }
@@ -40,7 +40,7 @@ void named_set(const char* name, f64 value) {
 f64 calc(const char* expression) {
     const HostServices* s = services();
     f64 result = 0.0;
-    if (s != nullptr && s->execute_calculator_code != nullptr)
+    if (s != nullptr)
         s->execute_calculator_code(expression, &result, nullptr, nullptr);
     return result;
 }

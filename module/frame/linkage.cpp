@@ -20,31 +20,31 @@ Element* first_background() {
 // The seven routines every header shares: each hands the diagnostic gauge's
 // background to the host's element-list service of the same role.
 void KCALL header_query() {
-    if (const HostServices* s = host::services(); s && s->element_list_query)
+    if (const HostServices* s = host::services())
         s->element_list_query(first_background());
 }
 void KCALL header_install(std::uintptr_t arg) {
-    if (const HostServices* s = host::services(); s && s->element_list_install)
+    if (const HostServices* s = host::services())
         s->element_list_install(first_background(), arg);
 }
 void KCALL header_initialize() {
-    if (const HostServices* s = host::services(); s && s->element_list_initialize)
+    if (const HostServices* s = host::services())
         s->element_list_initialize(first_background());
 }
 void KCALL header_update() {
-    if (const HostServices* s = host::services(); s && s->element_list_update)
+    if (const HostServices* s = host::services())
         s->element_list_update(first_background());
 }
 void KCALL header_generate(std::uintptr_t arg) {
-    if (const HostServices* s = host::services(); s && s->element_list_generate)
+    if (const HostServices* s = host::services())
         s->element_list_generate(first_background(), arg);
 }
 void KCALL header_draw() {
-    if (const HostServices* s = host::services(); s && s->element_list_plot)
+    if (const HostServices* s = host::services())
         s->element_list_plot(first_background());
 }
 void KCALL header_kill() {
-    if (const HostServices* s = host::services(); s && s->element_list_kill)
+    if (const HostServices* s = host::services())
         s->element_list_kill(first_background());
 }
 

@@ -9,7 +9,8 @@ using namespace kestrane;
 // 0 centre, 100 latched lower, 1..12 sprung right, -12..-1 sprung left.
 constexpr i8 kCentre = 0;
 constexpr i8 kLatched = 100;
-i8 heat_lh = kCentre, heat_rh = kCentre;
+i8& heat_lh = ac.fuel_heat_sw_lh;
+i8& heat_rh = ac.fuel_heat_sw_rh;
 
 void spring_right(i8& sw) {
     if (sw == kCentre || sw == kLatched) {

@@ -181,6 +181,8 @@ for e in elems:
         cap, role = WARNINGS[gname][0], 'lamp'
     if gname in SPHERES and role == 'card':
         role = 'sphere'
+    if role in ('sphere', 'card') and 'bank scale' in cap.lower():
+        role = 'bank-scale'  # marks on a ring, turning over the sphere
     rows.append((int(bid), gname, w, h, role, cap or role, (WARNINGS[gname][1] if gname in WARNINGS else colour(cap + ' ' + gname)) if role in ('lamp', 'button') else '-', params or '-'))
 
 print('# id\tgauge\twidth\theight\trole\tcaption\tcolour\tparams')

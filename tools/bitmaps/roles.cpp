@@ -270,6 +270,28 @@ void draw_sphere(cairo_t* cr, const Bitmap& b) {
     }
 }
 
+// A bank scale: marks at 0, 10, 20, 30 and 60 degrees each side of the top of
+// a ring, the rest transparent, turning over the sphere.
+void draw_bank_scale(cairo_t* cr, const Bitmap& b) {
+    const double cx = b.w / 2.0, cy = b.h / 2.0, r = std::min(b.w, b.h) / 2.0 - 4;
+    set(cr, {0.95, 0.95, 0.95});
+    cairo_set_line_width(cr, 2);
+    cairo_arc(cr, cx, cy, r, -M_PI / 2 - M_PI / 3, -M_PI / 2 + M_PI / 3);
+    cairo_stroke(cr);
+    for (int deg : {-60, -30, -20, -10, 10, 20, 30, 60}) {
+        const double a = deg * M_PI / 180 - M_PI / 2, len = std::abs(deg) % 30 == 0 ? 0.12 * r : 0.07 * r;
+        cairo_move_to(cr, cx + std::cos(a) * r, cy + std::sin(a) * r);
+        cairo_line_to(cr, cx + std::cos(a) * (r - len), cy + std::sin(a) * (r - len));
+        cairo_stroke(cr);
+    }
+    // the zero mark: a triangle pointing at the centre
+    cairo_move_to(cr, cx, cy - r + 0.1 * r);
+    cairo_line_to(cr, cx - 0.05 * r, cy - r);
+    cairo_line_to(cr, cx + 0.05 * r, cy - r);
+    cairo_close_path(cr);
+    cairo_fill(cr);
+}
+
 void draw_card(cairo_t* cr, const Bitmap& b) {
     double cx = b.w / 2.0, cy = b.h / 2.0, r = std::min(b.w, b.h) / 2.0 - 1;
     set(cr, kFace, 1.5);
@@ -426,6 +448,8 @@ void draw(cairo_t* cr, const Bitmap& b) {
         draw_sphere(cr, b);
     else if (r == "card")
         draw_card(cr, b);
+    else if (r == "bank-scale")
+        draw_bank_scale(cr, b);
     else if (r == "lamp")
         draw_lamp(cr, b);
     else if (r == "button")

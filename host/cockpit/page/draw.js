@@ -157,6 +157,15 @@ function drawElement(cx, bitmaps, el, st) {
       const atOrigin = el.x === 0 && el.y === 0;
       cx.save();
       cx.translate(atOrigin ? el.rx : el.x, atOrigin ? el.ry : el.y);
+      if (Math.abs(img.width - img.height) <= 0.1 * Math.max(img.width, img.height)) {
+        // a square bitmap is a round instrument's sphere or card: it shows
+        // through the round window it fills when centred, however it turns
+        // or is moved (a bar or a pointer is not clipped)
+        const k = Math.min(Math.abs(el.sc[0] || 1), Math.abs(el.sc[1] || 1));
+        cx.beginPath();
+        cx.arc(0, 0, (Math.min(img.width, img.height) / 2) * k, 0, 2 * Math.PI);
+        cx.clip();
+      }
       cx.rotate((num(v[2]) * Math.PI) / 180);
       cx.translate(num(v[0]), num(v[1]));
       cx.scale(el.sc[0] || 1, el.sc[1] || 1);

@@ -150,6 +150,10 @@ for e in elems:
         role = 'drum' if mn[3] - mn[2] >= mn[1] - mn[0] else 'drum-h'
         w, h = (14, span + 22) if role == 'drum' else (span + 16, 20)
         c = cap.lower()
+        if role == 'drum' and 0 < span <= 60 and not re.search(r'bar|pointer|deviation|trim|lever|handle', c):
+            # a digit drum: one digit every 20 pixels, the window 20 high,
+            # so that the strip scrolls a whole digit for each unit of value
+            h = span * 20 + 20
         if 'lever' in c and span >= 40:
             # a part carried along its travel, not a strip behind a window:
             # the bitmap is the part alone, shorter than the travel

@@ -233,10 +233,18 @@ void draw_drum(cairo_t* cr, const Bitmap& b, bool vertical) {
     cairo_rectangle(cr, 0, 0, b.w, b.h);
     cairo_fill(cr);
     set(cr, kEngrave);
-    for (int i = 0; i <= 10; ++i) {
-        std::string d(1, static_cast<char>('0' + i % 10));
+    // a vertical strip of one digit per unit of its range, 20 pixels apart,
+    // when its size says so; ten digits over the strip otherwise
+    const std::vector<std::string> p = split(b.params, ',');
+    const int low = p.size() == 4 ? std::atoi(p[2].c_str()) : 0;
+    const int span = p.size() == 4 ? std::atoi(p[3].c_str()) - low : 0;
+    const bool by_unit = vertical && span > 0 && b.h == span * 20 + 20;
+    const int count = by_unit ? span : 10;
+    for (int i = 0; i <= count; ++i) {
+        const int digit = by_unit ? ((low + i) % 10 + 10) % 10 : i % 10;
+        std::string d(1, static_cast<char>('0' + digit));
         if (vertical) {
-            double step = (b.h - 20) / 10.0;
+            double step = (b.h - 20) / static_cast<double>(count);
             text(cr, d, b.w / 2.0, 10 + i * step, std::min(14.0, b.w * 0.9), b.w - 1, true);
         } else {
             double step = (b.w - 16) / 10.0;

@@ -125,8 +125,8 @@ function drawElement(cx, bitmaps, el, st) {
       break;
     }
     case KIND.MOVING: {
-      // A strip scrolled by its value through a window at the element's place:
-      // the value's range is the strip's travel. A lever moves whole.
+      // A strip scrolled by its value through a window at the element's place.
+      // A lever moves whole.
       const img = bitmaps.get(el.b, keyed);
       if (!img) break;
       const [minX, maxX, minY, maxY] = el.mn;
@@ -139,12 +139,20 @@ function drawElement(cx, bitmaps, el, st) {
         cx.drawImage(img, el.x + dx, el.y + dy);
         break;
       }
+      // a strip: its range scrolls the whole strip past the window, as far
+      // as the strip is longer than the window
+      const winW = vertical ? img.width : Math.min(16, img.width);
+      const winH = vertical ? Math.min(20, img.height) : img.height;
+      const along = (d, lo, hi, size, win) => (hi !== lo ? (d / Math.abs(hi - lo)) * (size - win) : 0);
       cx.save();
       cx.beginPath();
-      if (vertical) cx.rect(el.x, el.y, img.width, Math.min(20, img.height));
-      else cx.rect(el.x, el.y, Math.min(16, img.width), img.height);
+      cx.rect(el.x, el.y, winW, winH);
       cx.clip();
-      cx.drawImage(img, el.x - dx, el.y - dy);
+      cx.drawImage(
+        img,
+        el.x - along(dx, minX, maxX, img.width, winW),
+        el.y - along(dy, minY, maxY, img.height, winH),
+      );
       cx.restore();
       break;
     }

@@ -60,6 +60,10 @@ def icon_role(c):
     c = c.lower()
     if 'night' in c:
         return 'night'
+    if re.search(r'\bflag\b', c):
+        return 'flag'
+    if re.search(r'\bknob\b', c):
+        return 'knob'
     if any(w in c for w in ('light', 'lamp', 'warn', 'caution', 'fire', 'alarm', 'lit', 'flag')):
         return 'lamp'
     if any(w in c for w in ('press', 'push', 'button', 'test', 'knob')):

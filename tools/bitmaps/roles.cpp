@@ -332,6 +332,42 @@ void draw_lamp(cairo_t* cr, const Bitmap& b) {
     caption(cr, b.caption, 2, 2, b.w - 4, b.h - 4);
 }
 
+// An instrument's warning flag: red with white stripes across it.
+void draw_flag(cairo_t* cr, const Bitmap& b) {
+    set(cr, {0.82, 0.10, 0.08});
+    cairo_rectangle(cr, 0, 0, b.w, b.h);
+    cairo_fill(cr);
+    cairo_save(cr);
+    cairo_rectangle(cr, 0, 0, b.w, b.h);
+    cairo_clip(cr);
+    set(cr, {0.96, 0.96, 0.96});
+    const double pitch = std::max(4.0, std::min(b.w, b.h) / 2.0);
+    cairo_set_line_width(cr, pitch / 2.5);
+    for (double x = -b.h; x < b.w + b.h; x += pitch) {
+        cairo_move_to(cr, x, b.h);
+        cairo_line_to(cr, x + b.h, 0);
+    }
+    cairo_stroke(cr);
+    cairo_restore(cr);
+}
+
+// A round knob with a grip line, warm when its caption says it is lit.
+void draw_knob(cairo_t* cr, const Bitmap& b) {
+    const double cx = b.w / 2.0, cy = b.h / 2.0, r = std::min(b.w, b.h) / 2.0 - 1;
+    const bool lit = has(b.caption, "lit");
+    set(cr, {0.12, 0.12, 0.13});
+    cairo_arc(cr, cx, cy, r, 0, 2 * M_PI);
+    cairo_fill(cr);
+    set(cr, lit ? Rgb{0.55, 0.42, 0.20} : Rgb{0.30, 0.31, 0.33});
+    cairo_arc(cr, cx, cy, r * 0.8, 0, 2 * M_PI);
+    cairo_fill(cr);
+    set(cr, lit ? Rgb{1.0, 0.85, 0.55} : Rgb{0.9, 0.9, 0.9});
+    cairo_set_line_width(cr, std::max(1.0, r / 5));
+    cairo_move_to(cr, cx, cy - r * 0.75);
+    cairo_line_to(cr, cx, cy - r * 0.2);
+    cairo_stroke(cr);
+}
+
 void draw_button(cairo_t* cr, const Bitmap& b) {
     bool pressed = has(b.caption, "pressed") || has(b.caption, "in");
     bevel(cr, 0, 0, b.w, b.h, {0.18, 0.18, 0.2});
@@ -460,6 +496,10 @@ void draw(cairo_t* cr, const Bitmap& b) {
         draw_bank_scale(cr, b);
     else if (r == "lamp")
         draw_lamp(cr, b);
+    else if (r == "flag")
+        draw_flag(cr, b);
+    else if (r == "knob")
+        draw_knob(cr, b);
     else if (r == "button")
         draw_button(cr, b);
     else if (r == "switch")

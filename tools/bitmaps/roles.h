@@ -1,5 +1,6 @@
 // The images of the module's bitmaps, drawn with cairo by role (panel, dial,
-// needle, drum, sphere, card, lamp, button, switch, area, pointer, image).
+// needle, drum, sphere, card, bank scale, lamp, flag, knob, button, switch,
+// area, pointer, bar, lever, image).
 #pragma once
 
 #include <cairo.h>

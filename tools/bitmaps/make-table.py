@@ -122,6 +122,9 @@ for e in elems:
         for o in elems:
             if int(o[0]) == gi and o[1] != '0':
                 w, h = max(w, int(o[4]) + 8), max(h, int(o[5]) + 8)
+                if int(o[2]) == 6 and int(o[4]) > 0:
+                    # a sphere or card turns about its place: room for all of it
+                    w, h = max(w, int(o[4]) + int(o[6])), max(h, int(o[5]) + int(o[7]))
         if gi in dials:
             # the whole face of every scale, within reason
             for px, py, ex in dials[gi]:

@@ -86,3 +86,34 @@ TEST(Registry, IconsAndBitmapsAsThePanelsGiveThem) {
 }
 
 }  // namespace
+
+namespace {
+
+// Failure lists: only the attitude displays, the turn indicator and the
+// standby compass card carry one, which the host applies by itself.
+TEST(Registry, FailureListsOnlyWhereTheHostFailsAnInstrument) {
+    Host host;
+    ASSERT_TRUE(host.ok()) << host.error();
+    std::map<std::string, std::string> seen;
+    for (int i = 0; i < host.gauge_count(); ++i) {
+        GaugeHeader* g = host.gauge(i);
+        Host::for_each_element(g, [&](Element* e, const std::string& label) {
+            if (e->failures == nullptr)
+                return;
+            std::string list;
+            for (const FailureEntry* f = e->failures; f->key != 0; ++f)
+                list += std::to_string(f->key) + ":" + std::to_string(f->action) + " ";
+            seen[std::string(g->name) + " e" + label] = list;
+        });
+    }
+    const std::map<std::string, std::string> expected = {
+        {"kestrane fdadi_jm47 e0", "8:0 "},     {"kestrane fdadi_jm47 e1", "8:0 "},
+        {"kestrane fdadi_jm47 e2", "8:0 "},     {"kestrane fdadimini_jm47 e0", "8:0 "},
+        {"kestrane fdadimini_jm47 e1", "8:0 "}, {"kestrane fdadimini_jm47 e2", "8:0 "},
+        {"kestrane turn_jm47 e0", "18:2 "},     {"kestrane turn_jm47 e1", "18:2 "},
+        {"kestrane turn_jm47 e2", "18:2 "},     {"kestrane compass_jm47 e1", "12:1 "},
+    };
+    EXPECT_EQ(seen, expected);
+}
+
+}  // namespace

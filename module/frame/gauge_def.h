@@ -121,6 +121,13 @@ constexpr ElementDecl text(i32 x, i32 y, i32 w, i32 h, u32 chars, TextStyle c, u
     return s;
 }
 
+// Gives an element the host's failure list (key and action pairs, ending
+// with {0, 0}): the host fails the image by itself.
+constexpr ElementDecl failing(ElementDecl s, const FailureEntry* list) {
+    s.e.failures = list;
+    return s;
+}
+
 // Hangs an element as a branch of chain element `parent`: drawn, but not numbered.
 constexpr ElementDecl branch(int parent, ElementDecl s) {
     s.parent = parent;

@@ -23,11 +23,6 @@ enum : int {
 // The host drops the attitude display when its attitude indicator fails.
 inline constexpr FailureEntry kAttitudeFailure[] = {{8, 0}, {0, 0}};
 
-inline constexpr def::ElementDecl failing(def::ElementDecl s, const FailureEntry* list) {
-    s.e.failures = list;
-    return s;
-}
-
 inline f64 KCALL none(Element*) {
     return 0.0;
 }

@@ -22,11 +22,14 @@ f64 KCALL card_x(Element*) {
     const f64 x = 360.0 - host::read(compass_heading);
     return x >= 0.0 && x <= 360.0 ? x : 0.0;
 }
+
+// The host fails the card by itself.
+constexpr FailureEntry kCardFailure[] = {{12, 1}, {0, 0}};
 }  // namespace
 
-KESTRANE_GAUGE(compass,
-               gauge("kestrane compass_jm47", 118, nullptr)
-                   .help(0xAB77)
-                   .elements(image(42832, 0x4001),                                          // e0 background
-                             moving(44656, 22, 41, 0x4003, card_x, nullptr, 0, 360, 0, 0))  // e1 card
-                   .mouse(click(0, 0, 118, 124, kCursorHand, compass::toggle)))
+KESTRANE_GAUGE(compass, gauge("kestrane compass_jm47", 118, nullptr)
+                            .help(0xAB77)
+                            .elements(image(42832, 0x4001),  // e0 background
+                                      failing(moving(44656, 22, 41, 0x4003, card_x, nullptr, 0, 360, 0, 0),
+                                              kCardFailure))  // e1 card
+                            .mouse(click(0, 0, 118, 124, kCursorHand, compass::toggle)))

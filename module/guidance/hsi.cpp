@@ -66,8 +66,7 @@ void counter_cycle() {
     } else if (s.counter_request) {
         s.counter_running = false;  // restarts the timer next cycle
     } else if (s.counter_running && std::int64_t{now} == std::int64_t{s.counter_start} + kCounterLife) {
-        ac.hsi_sel_counter_on = 0;
-        s.counter_running = false;
+        ac.hsi_sel_counter_on = 0;  // still running: the next request restarts it
     }
 }
 

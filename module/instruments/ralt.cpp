@@ -135,8 +135,8 @@ void cycle(GaugeHeader* g) {
             test_height(n);
         ac.ralt_test_light = t1 || t2;
     } else {
-        requests = Requests{};
-        dh_check.running = self_test_1.running = self_test_2.running = 0;
+        // unpowered: the lights go out; a test under way keeps its request
+        // and end tick
         ac.ralt_dh_light = 0;
         ac.ralt_test_light = 0;
     }

@@ -47,16 +47,12 @@ NeedlePoint scale[] = {
 
 // The host fails the dial, flag and needle together.
 constexpr FailureEntry kFailures[] = {{18, 2}, {0, 0}};
-constexpr def::ElementDecl failing(def::ElementDecl s) {
-    s.e.failures = kFailures;
-    return s;
-}
 }  // namespace
 
 KESTRANE_GAUGE(turn,
                gauge("kestrane turn_jm47", 181, update)
-                   .elements(failing(image(42176, 0x4001)),       // e0 dial
-                             failing(icon(48256, 125, 55, 0x3)),  // e1 flag
-                             failing(needle(48272, 90, 132, 4, 60, 0x4003, rate_needle, scale, 0,
-                                            70)),                                                // e2 needle
+                   .elements(failing(image(42176, 0x4001), kFailures),       // e0 dial
+                             failing(icon(48256, 125, 55, 0x3), kFailures),  // e1 flag
+                             failing(needle(48272, 90, 132, 4, 60, 0x4003, rate_needle, scale, 0, 70),
+                                     kFailures),                                                 // e2 needle
                              slider(48288, 80, 123, 0x4003, 69, 69, 1.0, 1.0, ball_x, ball_y)))  // e3 ball

@@ -33,7 +33,7 @@ f64 KCALL across(Element*) {
     return 1.0;
 }
 f64 KCALL handle(Element*) {
-    return ac.flaps_handle_pos;
+    return clamp_back(ac.flaps_handle_pos, 0, 5);
 }
 
 void toggle_to(u8 state) {

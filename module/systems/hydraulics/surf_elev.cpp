@@ -18,7 +18,7 @@ f64 KCALL across(Element*) {
     return 1.0;
 }
 f64 KCALL trim_mark(Element*) {
-    return shown_trim;
+    return clamp_back(shown_trim, 0, 15);
 }
 
 NeedlePoint elevator_scale[] = {{100, 20, 30000, 0}, {100, 60, 0, 0}, {100, 80, -12000, 0}};

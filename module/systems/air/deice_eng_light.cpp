@@ -32,7 +32,12 @@ void ice_cycle(GaugeHeader* g) {
             ac.ice_light = 0;
     }
 
-    // active de-icing puts the light out after a while
+    if (ac.ice_light == 0)
+        ac.ice_warning = 0;
+    show(g, 1, powered && ac.ice_light == 1);
+
+    // active de-icing puts the light out after a while (seen from the next
+    // cycle, which lights it again while the conditions last)
     const f64 now = host::read(tick);
     if (ac.ice_light == 1 && clear_timing == 0 && (ac.ice_eng_a_lh == 100 || ac.ice_eng_a_rh == 100)) {
         clear_end_tick = trunc_to<i32>(now + kClearTicks);
@@ -41,10 +46,6 @@ void ice_cycle(GaugeHeader* g) {
         ac.ice_light = 0;
         clear_timing = 0;
     }
-
-    if (ac.ice_light == 0)
-        ac.ice_warning = 0;
-    show(g, 1, powered && ac.ice_light == 1);
 }
 
 void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {

@@ -156,7 +156,7 @@ void autopilot_off(GaugeHeader* g, const Cycle& c) {
     ac.ap_gs_mode = 0;
     ac.ap_turn_mode = 0;
     ac.ap_bank_cmd = 0;
-    wheel_stop(g, wheel);
+    wheel_stop(wheel);
     if (ac.ap_rudder_phase == 1)
         ac.ap_rudder_phase = 2;
     clear_host_holds(c);

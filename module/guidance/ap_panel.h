@@ -117,14 +117,12 @@ inline void wheel_cycle(GaugeHeader* g, Wheel& w, f64 tick) {
     }
 }
 
-// Autopilot off: the wheel stops at rest and forgets its clicks.
-inline void wheel_stop(GaugeHeader* g, Wheel& w) {
+// Autopilot off: the wheel forgets its clicks and its roll stops; its
+// images stay as they are until the next click.
+inline void wheel_stop(Wheel& w) {
     w.running = 0;
     w.up_req = 0;
     w.down_req = 0;
-    show(g, kWheelUp, false);
-    show(g, kWheelDown, false);
-    show(g, kWheelRest, true);
 }
 
 inline void hide_lights(GaugeHeader* g) {

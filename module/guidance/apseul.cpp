@@ -43,7 +43,7 @@ void KCALL update(GaugeHeader* g, u32 service, std::uintptr_t) {
     lights(g, is_on(host_ap), host::read(t_alt_hold));
     if (host_ap == 0.0) {
         hide_lights(g);
-        wheel_stop(g, wheel);
+        wheel.up_req = wheel.down_req = 0;  // the clicks only: a roll runs out
     }
     wheel_cycle(g, wheel, host::read(t_tick));
 }

@@ -85,10 +85,6 @@ TEST(Registry, IconsAndBitmapsAsThePanelsGiveThem) {
     EXPECT_EQ(t.bitmaps.size(), 661u);
 }
 
-}  // namespace
-
-namespace {
-
 // Failure lists: only the attitude displays, the turn indicator and the
 // standby compass card carry one, which the host applies by itself.
 TEST(Registry, FailureListsOnlyWhereTheHostFailsAnInstrument) {
